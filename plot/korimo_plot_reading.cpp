@@ -1,0 +1,67 @@
+#include "plot/korimo_plot.h"
+
+#include "plot/reading/bek_reader.h"
+#include "plot/reading/dkl_reader.h"
+#include "plot/reading/file_kind.h"
+#include "plot/reading/name_listing.h"
+#include "plot/reading/result_file.h"
+#include "plot/reading/text_lines.h"
+#include "plot/reading/wel_reader.h"
+
+namespace {
+
+// Only "/" parts a name from its folder; a backslash may stand in a name.
+QStringView file_name_of(QStringView path)
+{
+    return path.sliced(path.lastIndexOf(u'/') + 1);
+}
+
+} // namespace
+
+void korimo_plot::readFile(QString filepath)
+{
+    kennlinien_list.clear();
+    QFile file(filepath);
+    if (!open_result_file(file)) {
+        show_error(QStringLiteral("Error"), QStringLiteral("Could not open or read file"));
+        return;
+    }
+    text_lines lines(file);
+    switch (file_kind_of(filepath)) {
+    case file_kind::wel:
+        read_wel(lines, file_name_of(filepath), {plot_mode, wel_title, series});
+        break;
+    case file_kind::bek:
+        kennlinien_list = list_bek_names(lines);
+        break;
+    case file_kind::dkl:
+        kennlinien_list = list_dkl_names(lines);
+        break;
+    case file_kind::none:
+        break;
+    }
+}
+
+// Unlike the other two, this reader says nothing about a file that cannot be opened; that is
+// deliberate.
+void korimo_plot::read_BEK(QString filepath, QString bek_item)
+{
+    plot_mode = 9;
+    QFile file(filepath);
+    if (!open_result_file(file))
+        return;
+    text_lines lines(file);
+    read_bek(lines, bek_item, series);
+}
+
+void korimo_plot::read_DKL(QString filepath, QString dkl_item)
+{
+    plot_mode = 8;
+    QFile file(filepath);
+    if (!open_result_file(file)) {
+        show_error(QStringLiteral("Error"), QStringLiteral("Could not open or read file"));
+        return;
+    }
+    text_lines lines(file);
+    read_dkl(lines, dkl_item, wel_title, series);
+}

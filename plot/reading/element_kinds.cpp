@@ -1,0 +1,39 @@
+#include "plot/reading/element_kinds.h"
+
+#include <algorithm>
+
+namespace {
+
+// clang-format off
+constexpr element_kind kinds[] = {
+    // name  markers         mode  token  0   1   2   3   4   5   6   7   8   9
+
+    // A basin row of exactly seven tokens has a layout of its own; that is deliberate. Entries 23
+    // and 24 may hold exponents in capitals, which the number conversion reads like small ones.
+    {"B",  {u"_B"},          1,         { 0,  1, 10, 11, 13, 14, 16, 23, 24},
+                                        { 0, 10, 11, 13, 14, 23, 24}, true},
+    // Deliberate: entry 9 comes before entry 8.
+    {"KN", {u"_K", u"_N"},   0,         { 0,  2,  3,  4,  5,  6,  7,  9,  8, 12}},
+    {"V",  {u"_V"},          3,         { 0, 10,  5,  6}},
+    // Deliberate: entry 23 comes before entry 21.
+    {"T",  {u"_T"},          2,         { 0, 10, 14, 16, 17, 18, 19, 23, 21, 22}},
+    {"E",  {u"_E"},          6,         { 0, 10}},
+    {"P",  {u"_P"},          5,         { 0, 12, 20}},
+};
+// clang-format on
+
+} // namespace
+
+std::span<const element_kind> element_kinds()
+{
+    return kinds;
+}
+
+const element_kind* element_kind_of(QStringView file_name)
+{
+    for (const element_kind& kind : kinds) {
+        if (std::ranges::any_of(kind.markers, [&](auto mark) { return file_name.contains(mark); }))
+            return &kind;
+    }
+    return nullptr;
+}

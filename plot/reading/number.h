@@ -1,0 +1,13 @@
+#pragma once
+
+#include <QByteArrayView>
+
+#include <optional>
+
+/// The value of a number written in `token` (UTF-8), or nothing where it is no number.
+///
+/// What counts as a number is what `QString::toDouble` accepts: "." as decimal point whatever the
+/// user's locale, an optional sign and exponent, "inf" and "nan", white space around; no thousands
+/// separator. An exponent may be written "e" or "E". A value too large or too small for a double is
+/// no number.
+std::optional<double> number_in(QByteArrayView token);

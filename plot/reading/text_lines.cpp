@@ -1,0 +1,105 @@
+#include "plot/reading/text_lines.h"
+
+#include <QIODevice>
+#include <QString>
+
+#include <utility>
+
+namespace {
+
+constexpr qsizetype block_size = 256 * 1024;
+constexpr QByteArrayView utf8_mark("\xEF\xBB\xBF");
+
+constexpr QStringDecoder::Flags keep_marks = QStringDecoder::Flag::ConvertInitialBom;
+
+} // namespace
+
+text_lines::text_lines(QIODevice& device)
+    : device(device)
+{
+    fill();
+    detect_encoding();
+}
+
+bool text_lines::next(QByteArrayView& line)
+{
+    qsizetype searched = start;
+    qsizetype end = buffer.indexOf('\n', searched);
+    while (end < 0 && !at_end) {
+        searched = buffer.size() - start;
+        fill();
+        end = buffer.indexOf('\n', start + searched);
+    }
+    if (end >= 0) {
+        line = without_returns(QByteArrayView(buffer).sliced(start, end - start));
+        start = end + 1;
+        return true;
+    }
+    if (start == buffer.size())
+        return false;
+    line = last_line();
+    start = buffer.size();
+    return true;
+}
+
+// Drops what has been given out and reads one more block behind the rest.
+bool text_lines::fill()
+{
+    buffer.remove(0, start);
+    start = 0;
+    const QByteArray block = device.read(block_size);
+    at_end = block.isEmpty();
+    append(block);
+    return !at_end;
+}
+
+void text_lines::append(QByteArrayView bytes)
+{
+    if (transcoder) {
+        const QString text = transcoder->decode(bytes);
+        buffer.append(text.toUtf8());
+    } else {
+        buffer.append(bytes);
+    }
+}
+
+void text_lines::detect_encoding()
+{
+    const auto encoding = QStringConverter::encodingForData(buffer);
+    if (!encoding)
+        return;
+    if (*encoding == QStringConverter::Utf8) {
+        start = utf8_mark.size();
+        return;
+    }
+    transcoder.emplace(*encoding);
+    append(std::exchange(buffer, {}));
+}
+
+// The text behind the last line end. A decoder that has not seen the end of the file holds back
+// the bytes of a character that is not complete, so they do not belong to the line.
+QByteArrayView text_lines::last_line()
+{
+    QStringDecoder decoder(QStringDecoder::Utf8, keep_marks);
+    const QString text = decoder.decode(QByteArrayView(buffer).sliced(start));
+    rewritten = QString(text).remove(u'\r').toUtf8();
+    return rewritten;
+}
+
+// A carriage return parts the bytes around it before it is dropped: what was no UTF-8 with it does
+// not become UTF-8 without it. So a line with returns inside is decoded first.
+QByteArrayView text_lines::without_returns(QByteArrayView line)
+{
+    while (line.endsWith('\r'))
+        line.chop(1);
+    if (!line.contains('\r'))
+        return line;
+    rewritten = decoded(line).remove(u'\r').toUtf8();
+    return rewritten;
+}
+
+QString decoded(QByteArrayView utf8)
+{
+    QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless | keep_marks);
+    return decoder.decode(utf8);
+}

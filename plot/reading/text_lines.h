@@ -1,0 +1,45 @@
+#pragma once
+
+#include <QByteArray>
+#include <QByteArrayView>
+#include <QStringDecoder>
+
+#include <optional>
+
+class QIODevice;
+
+/// The lines of a text file, one after the other, as UTF-8 without their line ends.
+///
+/// They are the lines that a QTextStream with its default encoding gives of a file opened in text
+/// mode: every carriage return is dropped, wherever it stands; a byte-order mark at the start
+/// chooses UTF-16 or UTF-32 and is dropped itself; an incomplete character at the very end is
+/// dropped. Bytes that are no UTF-8 stay in the line as they are: `decoded` turns them into
+/// replacement characters.
+class text_lines
+{
+public:
+    /// Reads from `device`, which must be open for reading, without text mode, and outlive this.
+    explicit text_lines(QIODevice& device);
+
+    /// Puts the next line into `line` and answers whether there was one. The bytes stay valid
+    /// until the next call.
+    bool next(QByteArrayView& line);
+
+private:
+    bool fill();
+    void detect_encoding();
+    void append(QByteArrayView bytes);
+    QByteArrayView last_line();
+    QByteArrayView without_returns(QByteArrayView line);
+
+    QIODevice& device;
+    QByteArray buffer;               // text that was read and not yet given out
+    qsizetype start = 0;             // where the next line starts in it
+    QByteArray rewritten;            // a line that had to be changed
+    std::optional<QStringDecoder> transcoder; // set for UTF-16 and UTF-32 only
+    bool at_end = false;
+};
+
+/// The text of `utf8`. Bytes that are no UTF-8 become replacement characters; a byte-order mark
+/// stays, since only the one at the start of a file is none of its text.
+QString decoded(QByteArrayView utf8);

@@ -1,0 +1,82 @@
+#include "plot/reading/wel_reader.h"
+
+#include "plot/reading/debug_log.h"
+#include "plot/reading/element_kinds.h"
+#include "plot/reading/number.h"
+#include "plot/reading/text_lines.h"
+#include "plot/reading/tokens.h"
+
+#include <QDebug>
+
+#include <vector>
+
+namespace {
+
+using row = std::vector<double>;
+
+// Fills `values` with the numbers of the line up to the first token that is none, and answers
+// whether every token is a number. A line without tokens is a row without values.
+bool read_row(QByteArrayView line, row& values)
+{
+    values.clear();
+    token_cursor cursor(line);
+    QByteArrayView token;
+    while (cursor.next(token)) {
+        const std::optional<double> number = number_in(token);
+        if (!number)
+            return false;
+        values.push_back(*number);
+    }
+    return true;
+}
+
+// Appends the values to their series and answers whether all of them have a place there.
+bool store_row(const row& values, const column_routing& columns, series_store& series)
+{
+    const std::size_t accepted = std::min(values.size(), columns.size());
+    for (std::size_t i = 0; i < accepted; ++i)
+        series[static_cast<std::size_t>(columns[i])].append(values[i]);
+    return accepted == values.size();
+}
+
+void log_row(QByteArrayView line, bool ok)
+{
+    if (debug_log_is_on())
+        qDebug() << tokens_of(line) << ok;
+}
+
+void log_overlong_row(QByteArrayView line, const element_kind& kind, const column_routing& columns)
+{
+    if (!debug_log_is_on())
+        return;
+    // Only a basin's log names the token that does not fit.
+    if (kind.logs_excess_token)
+        qDebug() << tokens_of(line).value(static_cast<qsizetype>(columns.size()));
+    const QByteArray message = QByteArray(" i outside of bounds ") + kind.name;
+    qDebug() << "void korimo_plot::readFile(QString)" << message.constData();
+}
+
+} // namespace
+
+void read_wel(text_lines& lines, QStringView file_name, const wel_target& target)
+{
+    const element_kind* const kind = element_kind_of(file_name);
+    row values;
+    QByteArrayView line;
+    while (lines.next(line)) {
+        if (line.contains("Ganglinien")) {
+            target.title = decoded(line);
+            continue;
+        }
+        const bool ok = read_row(line, values);
+        log_row(line, ok);
+        if (!ok || !kind)
+            continue;
+        target.plot_mode = kind->plot_mode;
+        const column_routing& columns = kind->columns_for(values.size());
+        if (!store_row(values, columns, target.series)) {
+            log_overlong_row(line, *kind, columns);
+            return;
+        }
+    }
+}

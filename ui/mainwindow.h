@@ -1,0 +1,99 @@
+#pragma once
+
+#include <QMainWindow>
+#include <QMessageBox>
+#include <QStringList>
+
+#include <array>
+
+class QwtPlot;
+class axis_dialog;
+class korimo_plot;
+class rename_dialog;
+
+namespace Ui {
+class MainWindow;
+}
+
+/// The viewer's one window: the file list, both plots, and the commands that tie them together.
+///
+/// Its code is split by command: mainwindow.cpp lays out and wires, the other mainwindow_*.cpp hold
+/// the commands of the same name.
+class MainWindow : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    explicit MainWindow(QWidget* parent = nullptr);
+    ~MainWindow() override;
+
+public slots:
+    /// Adds the files that the user picks in a dialog to the file list.
+    void selectFiles();
+    /// Plots or reads the selected file, or clears the plots, as the button's text says.
+    void buttonClicked();
+    void plotDKl_Clicked();
+    void back_to_start_clicked();
+    void back_one_clicked();
+    void forward_one_clicked();
+    void forward_to_end_clicked();
+    /// Clears the plots for the file that is selected now and names the button after its kind.
+    void listWidget_item_changed();
+    // Deliberate: named unlike its action, so it is connected by hand.
+    void on_action_oeffenen_triggered();
+    void on_action_speicher_triggered();
+    void on_action_schliessen_triggered();
+    void on_action_Orvan_Information_triggered();
+    void on_action_Qt_Licensing_Information_triggered();
+    void on_action_LGPLv3_triggered();
+    void on_action_Handbuch_triggered();
+    /// Empties both plots and the right-hand list. The trigger "list_item_changed" keeps the ranges
+    /// of the axes that the user fixed, any other ("clear_btn") forgets them.
+    void clear_plots(QString trigger);
+    void set_min_max(QList<double> min_max);
+    void on_action_y_achse_unten_triggered();
+    void on_actionx_Achse_unten_triggered();
+    void on_actiony_Achse_oben_triggered();
+    void on_actionx_Achse_oben_triggered();
+    void on_action2_X_Achse_unten_triggered();
+    void on_actionZeitreihe_change_names_triggered();
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
+    /// Takes the selected file out of the file list.
+    void remove_file_clicked();
+
+private:
+    void set_up_plots();
+    void connect_commands();
+
+    void add_file(const QString& path);
+
+    void show_selection_error();
+    void replace_document();
+    void destroy_document();
+    void plot_hydrographs();
+    void list_names(const QString& path);
+    void remember_fixed_ranges();
+    void forget_fixed_ranges();
+    enum class redraw
+    {
+        no,
+        yes,
+    };
+    void apply_kept_ranges(redraw wanted);
+    QString idle_button_text() const;
+
+    Ui::MainWindow* ui;
+    QMessageBox message_box; // shared by all commands: each sets only what it names
+    korimo_plot* document = nullptr;
+    bool document_exists = false;
+    bool two_step_mode = false; // the selected file is no WEL file: "Read" first, then a name
+    QStringList offered_names;
+    QString current_file_path;
+    QString selected_item_name;
+    axis_dialog* range_dialog;
+    QString clear_trigger;
+    std::array<QList<double>, 4> kept_ranges; // of the lower x, upper x, lower y and upper y axis
+    QList<bool> keep_flags{false, false, false, false};
+    rename_dialog* names_dialog;
+};

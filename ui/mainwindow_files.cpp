@@ -1,0 +1,77 @@
+#include "ui/mainwindow.h"
+
+#include "plot/reading/file_kind.h"
+#include "ui/choose_files.h"
+#include "ui_mainwindow.h"
+
+#include <QDragEnterEvent>
+#include <QDropEvent>
+#include <QMimeData>
+#include <QUrl>
+
+#include <memory>
+
+namespace {
+
+// The copy only, whatever the source proposes: a source that is told "moved" may delete the file.
+void accept_as_copy(QDropEvent& event)
+{
+    event.setDropAction(Qt::CopyAction);
+    event.accept();
+}
+
+// The text of the URL tells the kind, not the path. A URL without a local file has no path to add.
+bool is_result_file(const QUrl& url)
+{
+    return file_kind_of(url.toString()) != file_kind::none && !url.toLocalFile().isEmpty();
+}
+
+} // namespace
+
+void MainWindow::selectFiles()
+{
+    for (const QString& path : choose_result_files(this))
+        add_file(path);
+}
+
+void MainWindow::on_action_oeffenen_triggered()
+{
+    selectFiles();
+}
+
+void MainWindow::dragEnterEvent(QDragEnterEvent* event)
+{
+    if (event->mimeData()->hasUrls())
+        accept_as_copy(*event);
+}
+
+void MainWindow::dropEvent(QDropEvent* event)
+{
+    if (!event->mimeData()->hasUrls())
+        return;
+    accept_as_copy(*event);
+    for (const QUrl& url : event->mimeData()->urls()) {
+        if (is_result_file(url))
+            add_file(url.toLocalFile());
+    }
+}
+
+void MainWindow::add_file(const QString& path)
+{
+    if (ui->listWidget->findItems(path, Qt::MatchExactly | Qt::MatchCaseSensitive).isEmpty())
+        ui->listWidget->addItem(path);
+}
+
+void MainWindow::remove_file_clicked()
+{
+    if (ui->listWidget->count() == 0)
+        return;
+    const QList<QListWidgetItem*> selected = ui->listWidget->selectedItems();
+    if (selected.size() != 1) {
+        show_selection_error();
+        return;
+    }
+    const int row = ui->listWidget->row(selected.first());
+    ui->listWidget->clearSelection();
+    const std::unique_ptr<QListWidgetItem> removed(ui->listWidget->takeItem(row));
+}
