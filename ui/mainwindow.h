@@ -27,6 +27,9 @@ public:
     explicit MainWindow(QWidget* parent = nullptr);
     ~MainWindow() override;
 
+    /// The document of the file or curve that is shown; null while there is none.
+    korimo_plot* shown_document() const { return document; }
+
 public slots:
     /// Adds the files that the user picks in a dialog to the file list.
     void selectFiles();

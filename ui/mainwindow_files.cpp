@@ -13,10 +13,13 @@
 
 namespace {
 
-// The copy only, whatever the source proposes: a source that is told "moved" may delete the file.
+// The copy only, whatever the source proposes: a source that is told "moved" may delete the file. A
+// source that offers no copy is told, at the drop, that nothing was done.
 void accept_as_copy(QDropEvent& event)
 {
     event.setDropAction(Qt::CopyAction);
+    if (event.type() == QEvent::Drop && event.dropAction() != Qt::CopyAction)
+        event.setDropAction(Qt::IgnoreAction);
     event.accept();
 }
 

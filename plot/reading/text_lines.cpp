@@ -18,6 +18,7 @@ text_lines::text_lines(QIODevice& device)
     : device(device)
 {
     fill();
+    file_is_empty = at_end;
     detect_encoding();
 }
 
@@ -30,27 +31,37 @@ bool text_lines::next(QByteArrayView& line)
         fill();
         end = buffer.indexOf('\n', start + searched);
     }
-    if (end >= 0) {
-        line = without_returns(QByteArrayView(buffer).sliced(start, end - start));
-        start = end + 1;
-        return true;
-    }
-    if (start == buffer.size())
-        return false;
-    line = last_line();
-    start = buffer.size();
+    if (end < 0)
+        return take_last_line(line);
+    line = without_returns(QByteArrayView(buffer).sliced(start, end - start));
+    start = end + 1;
+    gave_a_line = true;
     return true;
 }
 
+// The text behind the last line end. A decoder that has not seen the end of the file holds back
+// the bytes of a character that is not complete, so they do not belong to the line. Nothing is left
+// of bytes that were all dropped, but a file of nothing else still has one empty line.
+bool text_lines::take_last_line(QByteArrayView& line)
+{
+    QStringDecoder decoder(QStringDecoder::Utf8, keep_marks);
+    const QString text = decoder.decode(QByteArrayView(buffer).sliced(start));
+    start = buffer.size();
+    rewritten = QString(text).remove(u'\r').toUtf8();
+    line = rewritten;
+    const bool is_only_line = !gave_a_line && !file_is_empty;
+    gave_a_line = true;
+    return !line.isEmpty() || is_only_line;
+}
+
 // Drops what has been given out and reads one more block behind the rest.
-bool text_lines::fill()
+void text_lines::fill()
 {
     buffer.remove(0, start);
     start = 0;
     const QByteArray block = device.read(block_size);
     at_end = block.isEmpty();
     append(block);
-    return !at_end;
 }
 
 void text_lines::append(QByteArrayView bytes)
@@ -74,16 +85,6 @@ void text_lines::detect_encoding()
     }
     transcoder.emplace(*encoding);
     append(std::exchange(buffer, {}));
-}
-
-// The text behind the last line end. A decoder that has not seen the end of the file holds back
-// the bytes of a character that is not complete, so they do not belong to the line.
-QByteArrayView text_lines::last_line()
-{
-    QStringDecoder decoder(QStringDecoder::Utf8, keep_marks);
-    const QString text = decoder.decode(QByteArrayView(buffer).sliced(start));
-    rewritten = QString(text).remove(u'\r').toUtf8();
-    return rewritten;
 }
 
 // A carriage return parts the bytes around it before it is dropped: what was no UTF-8 with it does

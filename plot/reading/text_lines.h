@@ -26,10 +26,10 @@ public:
     bool next(QByteArrayView& line);
 
 private:
-    bool fill();
+    void fill();
     void detect_encoding();
     void append(QByteArrayView bytes);
-    QByteArrayView last_line();
+    bool take_last_line(QByteArrayView& line);
     QByteArrayView without_returns(QByteArrayView line);
 
     QIODevice& device;
@@ -38,6 +38,8 @@ private:
     QByteArray rewritten;            // a line that had to be changed
     std::optional<QStringDecoder> transcoder; // set for UTF-16 and UTF-32 only
     bool at_end = false;
+    bool file_is_empty = false;
+    bool gave_a_line = false;
 };
 
 /// The text of `utf8`. Bytes that are no UTF-8 become replacement characters; a byte-order mark

@@ -1,0 +1,94 @@
+#!/usr/bin/env bash
+# All checks of the project, run where its dependencies are. The last line counts the tests that
+# ctest ran, and every other step that failed as one more failure.
+set -euo pipefail
+lib=$(dirname -- "$(realpath -- "$0")")
+# shellcheck source=lib/common.sh
+source "$lib/common.sh"
+# shellcheck source=lib/build.sh
+source "$lib/build.sh"
+caller=script/test
+cd -- "$project_dir"
+
+passed=0
+failed=0
+
+fail() {
+  say "FAILED: $*"
+  failed=$((failed + 1))
+}
+
+is_own_checkout() {
+  [[ $(git rev-parse --show-toplevel 2>/dev/null) == "$project_dir" ]]
+}
+
+# Without git, everything that is not built counts.
+source_files() {
+  if is_own_checkout; then
+    git ls-files -z -co --exclude-standard -- '*.cpp' '*.h'
+  else
+    find . -path ./build -prune -o -type f \( -name '*.cpp' -o -name '*.h' \) -print0
+  fi
+}
+
+# A file that git still lists may be deleted already.
+check_formatting() {
+  local -a listed files=()
+  local file
+  mapfile -d '' -t listed < <(source_files)
+  for file in "${listed[@]}"; do [[ ! -f $file ]] || files+=("$file"); done
+  ((${#files[@]} > 0)) || { echo 'no source file found'; return 1; }
+  clang-format --dry-run --Werror "${files[@]}" 2>&1 && return
+  printf '\nnot formatted:\n'
+  for file in "${files[@]}"; do
+    clang-format --dry-run --Werror "$file" 2>/dev/null || printf '  %s\n' "$file"
+  done
+  return 1
+}
+
+# attribute FILE NAME: of the first element of the results that ctest wrote.
+attribute() { grep -m 1 -oE "\\b$2=\"[0-9]+\"" "$1" | grep -oE '[0-9]+'; }
+
+count_results() {
+  local results=$1 all bad skipped=0 name
+  [[ -s $results ]] || { fail "ctest left no results in $results"; return; }
+  all=$(attribute "$results" tests)
+  bad=$(attribute "$results" failures)
+  for name in skipped disabled; do skipped=$((skipped + $(attribute "$results" "$name"))); done
+  ((all > 0)) || fail "no test ran"
+  passed=$((passed + all - bad - skipped))
+  failed=$((failed + bad))
+}
+
+# Failures that ctest counted are not counted again.
+run_tests() {
+  local results=$build_dir/$1/results.xml before=$failed status=0
+  rm -f -- "$results"
+  say "testing $1 …"
+  ctest --preset "$1" --output-junit "$results" || status=$?
+  count_results "$results"
+  ((status == 0 || failed > before)) || fail "ctest $1 ended with code $status"
+}
+
+check_preset() {
+  if logged "$build_dir/$1.log" "building $1" configure_and_build "$1"; then
+    run_tests "$1"
+  else
+    fail "building $1"
+  fi
+}
+
+check_scripts() {
+  local script
+  for script in tests/scripts/*.sh; do bash "$script" || return; done
+}
+
+logged "$build_dir/format.log" "checking the formatting" check_formatting ||
+  fail "formatting: script/env clang-format -i FILE mends it"
+logged "$build_dir/scripts.log" "testing the scripts" check_scripts || fail "tests/scripts"
+check_preset dev
+check_preset release
+
+((passed + failed > 0)) || fail "no test ran"
+printf '\n%d passed, %d failed\n' "$passed" "$failed"
+((failed == 0))

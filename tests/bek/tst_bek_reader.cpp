@@ -1,0 +1,114 @@
+#include "plot/reading/bek_reader.h"
+#include "plot/reading/text_lines.h"
+#include "tests/support/plot_pair.h"
+
+#include <QBuffer>
+#include <QTest>
+
+namespace {
+
+// A line of a BEK file: the identifier, then the four values in their columns.
+QByteArray line(const char* identifier, const char* level, const char* outlet, const char* spillway,
+                const char* volume)
+{
+    return QByteArray("   ") + QByteArray(identifier).leftJustified(34)
+           + QByteArray(level).rightJustified(7) + QByteArray(outlet).rightJustified(6)
+           + QByteArray(spillway).rightJustified(6) + QByteArray(volume).rightJustified(7) + "\n";
+}
+
+series_store read(QByteArray bytes, const QString& item)
+{
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::ReadOnly);
+    text_lines lines(buffer);
+    series_store series;
+    read_bek(lines, item, series);
+    return series;
+}
+
+using values = QList<double>;
+
+} // namespace
+
+class tst_bek_reader : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void blocks();
+    void values_of_a_row();
+    void spillway_data();
+    void spillway();
+    void short_line();
+    void silent_when_it_cannot_be_opened();
+};
+
+void tst_bek_reader::blocks()
+{
+    const series_store series = read(line("B1", "1", "10", "", "0") + line("", "2", "20", "", "0")
+                                         + line("B1", "3", "30", "", "0")
+                                         + line("", "4", "40", "", "0")
+                                         + line("B2", "5", "50", "", "0")
+                                         + line("", "6", "60", "", "0")
+                                         + line("B1", "7", "70", "", "0")
+                                         + line("", "8", "80", "", "0") + "\n"
+                                         + line("", "9", "90", "", "0"),
+                                     "B1   ");
+    QCOMPARE(series[1], (values{1, 2, 4, 7, 8}));
+    QCOMPARE(series[11], (values{10, 20, 40, 70, 80}));
+}
+
+void tst_bek_reader::values_of_a_row()
+{
+    const series_store series =
+        read(line("B1", "1234.56", "123.45", "678.90", "9999.99") + line("", "x", "", "1", "-2"),
+             "B1   ");
+    QCOMPARE(series[0], values());
+    QCOMPARE(series[1], (values{1234.56, 0}));
+    QCOMPARE(series[11], (values{123.45, 0}));
+    QCOMPARE(series[13], (values{678.9, 1}));
+    QCOMPARE(series[23], (values{9999.99, -2}));
+}
+
+void tst_bek_reader::spillway_data()
+{
+    QTest::addColumn<QByteArray>("text");
+    QTest::addColumn<values>("expected");
+    QTest::newRow("blank") << QByteArray("") << values{};
+    QTest::newRow("0.00") << QByteArray("0.00") << values{0};
+    QTest::newRow("0.0") << QByteArray("0.0") << values{0};
+    QTest::newRow("0.000") << QByteArray("0.000") << values{0};
+    QTest::newRow("bare 0") << QByteArray("0") << values{};
+    QTest::newRow("0.0000") << QByteArray("0.0000") << values{};
+    QTest::newRow("-0.0") << QByteArray("-0.0") << values{};
+    QTest::newRow("negative") << QByteArray("-1.5") << values{};
+    QTest::newRow("text") << QByteArray("abc") << values{};
+    QTest::newRow("positive") << QByteArray("0.01") << values{0.01};
+}
+
+void tst_bek_reader::spillway()
+{
+    QFETCH(QByteArray, text);
+    QFETCH(values, expected);
+    QCOMPARE(read(line("B1", "1", "1", text.constData(), "1"), "B1   ")[13], expected);
+}
+
+void tst_bek_reader::short_line()
+{
+    const series_store series = read("   B1   \n        x\n", "B1   ");
+    QCOMPARE(series[1], (values{0, 0}));
+    QCOMPARE(series[11], (values{0, 0}));
+    QCOMPARE(series[13], values());
+    QCOMPARE(series[23], (values{0, 0}));
+}
+
+void tst_bek_reader::silent_when_it_cannot_be_opened()
+{
+    const plot_pair plots;
+    plots.document->read_BEK("missing.bek", "B1   ");
+    QCOMPARE(plots.document->plot_mode, 9);
+    QCOMPARE(plots.document->series, series_store());
+}
+
+QTEST_MAIN(tst_bek_reader)
+#include "tst_bek_reader.moc"

@@ -1,0 +1,119 @@
+#include "plot/reading/dkl_reader.h"
+#include "plot/reading/text_lines.h"
+#include "tests/support/log_capture.h"
+#include "tests/support/modal_boxes.h"
+#include "tests/support/plot_pair.h"
+
+#include <QBuffer>
+#include <QTest>
+
+namespace {
+
+using values = QList<double>;
+
+struct reading
+{
+    QString title;
+    series_store series;
+};
+
+reading read(QByteArray bytes, const QString& item = "Sp_12_Auslass")
+{
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::ReadOnly);
+    text_lines lines(buffer);
+    reading result;
+    read_dkl(lines, item, result.title, result.series);
+    return result;
+}
+
+const QByteArray header = "12 Auslass km Sp\n";
+
+} // namespace
+
+class tst_dkl_reader : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void curve_data();
+    void curve();
+    void nan_is_not_zero();
+    void rejected_line_is_logged();
+    void header_needs_three_parts();
+    void cannot_be_opened();
+};
+
+void tst_dkl_reader::curve_data()
+{
+    QTest::addColumn<QByteArray>("text");
+    QTest::addColumn<values>("levels");
+    QTest::addColumn<values>("discharges");
+    QTest::newRow("as many as announced")
+        << header + "Wo Qd\n2\n101.5 2\n102 3\n" << values{101.5, 102} << values{2, 3};
+    QTest::newRow("more than announced")
+        << header + "3\n1 1\n2 2\n3 3\n4 4\n5 5\n" << values{1, 2, 3} << values{1, 2, 3};
+    QTest::newRow("fewer than announced") << header + "3\n1 1\n" << values{1} << values{1};
+    QTest::newRow("true zero") << header + "1\n101.5 0.000000E+00\n" << values{101.5} << values{0};
+    QTest::newRow("exponent 0 with level 0")
+        << header + "1\n0 1.5E+00\n" << values{0} << values{0};
+    QTest::newRow("rejected but counted") << header + "2\n0 2.5\n1 1\n2 2\n" << values{1} << values{1};
+    QTest::newRow("one field") << header + "2\n7.5\n1 1\n" << values{1} << values{1};
+    QTest::newRow("count before the header") << "5\n" + header + "1 1\n" << values{} << values{};
+    QTest::newRow("data with Wo>") << header + "2\n1 1 Wo>\n2 2\n" << values{1, 2} << values{1, 2};
+    QTest::newRow("blanks around the count") << header + "  1  \n1 1\n" << values{1} << values{1};
+    QTest::newRow("0 is no count") << header + "2\n0\n1 1\n" << values{1} << values{1};
+    QTest::newRow("second count") << header + "1\n1 1\n3\n2 2\n3 3\n4 4\n" << values{1, 2, 3}
+                                  << values{1, 2, 3};
+    QTest::newRow("second header adds what is missing")
+        << header + "1\n1 1\nend\n" + header + "2\n2 2\n3 3\n" << values{1, 2} << values{1, 2};
+    QTest::newRow("another curve") << QByteArray("13 Zulauf km Sp\n1\n1 1\n") << values{} << values{};
+}
+
+void tst_dkl_reader::curve()
+{
+    QFETCH(QByteArray, text);
+    QFETCH(values, levels);
+    QFETCH(values, discharges);
+    const log_capture log;
+    const reading result = read(text);
+    QCOMPARE(result.series[1], levels);
+    QCOMPARE(result.series[11], discharges);
+    QCOMPARE(result.title, text.contains(header) ? "Sp_12_Auslass" : QString());
+}
+
+void tst_dkl_reader::nan_is_not_zero()
+{
+    const reading result = read(header + "1\nnan 1\n");
+    QCOMPARE(result.series[1].size(), 1);
+    QVERIFY(qIsNaN(result.series[1][0]));
+    QCOMPARE(result.series[11], values{1});
+}
+
+void tst_dkl_reader::rejected_line_is_logged()
+{
+    const log_capture log;
+    read(header + "1\n0 2.5\n");
+    QCOMPARE(log_capture::warning_lines(),
+             QStringList{"dkl data line could not be converted:  \"0 2.5\""});
+}
+
+void tst_dkl_reader::header_needs_three_parts()
+{
+    QCOMPARE(read(header + "1\n1 1\n", "Sp_12").title, QString());
+    QCOMPARE(read(header + "1\n1 1\n", "Sp__12_Auslass_2").title, "Sp__12_Auslass_2");
+}
+
+void tst_dkl_reader::cannot_be_opened()
+{
+    const plot_pair plots;
+    const modal_boxes boxes;
+    plots.document->read_DKL("missing.dkl", "Sp_12_Auslass");
+    QCOMPARE(boxes.shown().size(), 1);
+    QCOMPARE(boxes.shown()[0].title, "Error");
+    QCOMPARE(boxes.shown()[0].text, "Could not open or read file");
+    QCOMPARE(plots.document->plot_mode, 8);
+}
+
+QTEST_MAIN(tst_dkl_reader)
+#include "tst_dkl_reader.moc"

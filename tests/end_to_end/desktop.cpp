@@ -1,0 +1,70 @@
+#include "tests/end_to_end/desktop.h"
+
+#include <QGuiApplication>
+#include <QPixmap>
+#include <QScreen>
+#include <QStandardPaths>
+
+namespace {
+
+constexpr int seconds = 1000;
+
+// The server chooses a free display number and writes it to its standard output.
+QByteArray start_server(QProcess& server)
+{
+    server.start("Xvfb", {"-displayfd", "1", "-screen", "0", "1280x1024x24", "-nolisten", "tcp"});
+    QByteArray number;
+    while (!number.endsWith('\n') && server.waitForReadyRead(20 * seconds))
+        number += server.readAllStandardOutput();
+    return number.trimmed();
+}
+
+} // namespace
+
+desktop::desktop()
+{
+    const QByteArray number = start_server(server);
+    if (number.isEmpty())
+        return;
+    qputenv("DISPLAY", ":" + number);
+    manager.start("openbox", QStringList());
+    ready = manager.waitForStarted(20 * seconds);
+}
+
+desktop::~desktop()
+{
+    manager.kill();
+    manager.waitForFinished();
+    server.terminate();
+    server.waitForFinished();
+}
+
+QString xdotool(const QStringList& words)
+{
+    QProcess process;
+    process.start("xdotool", words);
+    process.waitForFinished(20 * seconds);
+    return QString::fromUtf8(process.readAllStandardOutput()).trimmed();
+}
+
+void start_xdotool(const QStringList& words)
+{
+    QProcess::startDetached("xdotool", words);
+}
+
+QImage screenshot()
+{
+    return QGuiApplication::primaryScreen()->grabWindow(0).toImage().convertToFormat(
+        QImage::Format_RGB32);
+}
+
+int pixels_of(const QImage& image, const QRect& area, const QColor& colour)
+{
+    int count = 0;
+    const QRect inside = area.intersected(image.rect());
+    for (int y = inside.top(); y <= inside.bottom(); ++y) {
+        for (int x = inside.left(); x <= inside.right(); ++x)
+            count += image.pixelColor(x, y) == colour ? 1 : 0;
+    }
+    return count;
+}

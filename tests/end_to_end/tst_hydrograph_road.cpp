@@ -1,0 +1,310 @@
+#include "tests/end_to_end/desktop.h"
+#include "tests/end_to_end/viewer.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QDrag>
+#include <QMimeData>
+#include <QMouseEvent>
+#include <QTest>
+#include <QUrl>
+#include <QWidget>
+
+#include <memory>
+
+namespace {
+
+const QColor blue(Qt::blue);
+const QColor green(Qt::green);
+const QColor red(Qt::red);
+const QRect first_file_row(place::files.left() + 2, place::files.top() + 2, 300, 16);
+
+// A window of another program (this one) from which files are dragged. It proposes to move them, as
+// some file managers do.
+class drag_source : public QWidget
+{
+public:
+    explicit drag_source(const QList<QUrl>& urls)
+        : urls(urls)
+    {
+        setWindowTitle("source of a drag");
+        setGeometry(1060, 500, 200, 100);
+        show();
+    }
+
+    Qt::DropAction result = Qt::IgnoreAction;
+    bool finished = false;
+
+protected:
+    void mousePressEvent(QMouseEvent* /*event*/) override
+    {
+        auto* const data = new QMimeData;
+        data->setUrls(urls);
+        auto* const drag = new QDrag(this);
+        drag->setMimeData(data);
+        result = drag->exec(Qt::MoveAction | Qt::CopyAction, Qt::MoveAction);
+        finished = true;
+    }
+
+private:
+    QList<QUrl> urls;
+};
+
+// Drags with the left button from the middle of `source` to a place on the screen.
+void drag_to(const QWidget& source, const QPoint& target)
+{
+    const QPoint start = source.mapToGlobal(source.rect().center());
+    QStringList words{"mousemove", QString::number(start.x()), QString::number(start.y()), "sleep",
+                      "0.3",       "mousedown",                "1",                        "sleep",
+                      "0.3"};
+    for (int step = 1; step <= 8; ++step) {
+        const QPoint point = start + (target - start) * step / 8;
+        words += {"mousemove", QString::number(point.x()), QString::number(point.y()), "sleep",
+                  "0.1"};
+    }
+    words += {"sleep", "0.5", "mouseup", "1"};
+    start_xdotool(words);
+}
+
+} // namespace
+
+class tst_hydrograph_road : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void init();
+    void cleanup();
+    void cleanupTestCase();
+
+    void file_dialog_by_typing();
+    void file_dialog_by_clicking();
+    void drop_from_another_program();
+    void plot_zoom_pan_and_clear();
+    void change_of_file_and_removal();
+    void two_steps_of_a_basin_table();
+    void message_without_selection();
+    void closing_from_the_menu();
+
+private:
+    void add_by_typing(const QStringList& names);
+    void select_row(int row) const;
+
+    desktop screen;
+    std::unique_ptr<QApplication> application;
+    std::unique_ptr<viewer> program;
+};
+
+void tst_hydrograph_road::initTestCase()
+{
+    QVERIFY2(screen.is_ready(), "Xvfb and openbox are needed");
+    QVERIFY2(!xdotool({"version"}).isEmpty(), "xdotool is needed");
+    static int count = 1;
+    static char name[] = "tst_hydrograph_road";
+    static char* arguments[] = {name, nullptr};
+    qputenv("QT_QPA_PLATFORM", "xcb");
+    application = std::make_unique<QApplication>(count, arguments);
+}
+
+void tst_hydrograph_road::init()
+{
+    program = std::make_unique<viewer>();
+    QVERIFY(program->is_shown());
+}
+
+// A step that failed leaves what was on the screen behind.
+void tst_hydrograph_road::cleanup()
+{
+    const bool wanted = QTest::currentTestFailed() || qEnvironmentVariableIsSet("KORIMO_SCREENSHOTS");
+    if (wanted)
+        screenshot().save(QString("screenshot_%1.png").arg(QTest::currentTestFunction()));
+    program.reset();
+}
+
+void tst_hydrograph_road::cleanupTestCase()
+{
+    application.reset();
+}
+
+void tst_hydrograph_road::add_by_typing(const QStringList& names)
+{
+    QString text;
+    for (const QString& name : names) {
+        QVERIFY(program->bring(name));
+        text += "\"" + name + "\" ";
+    }
+    program->choose_file_entry(0);
+    QVERIFY(viewer::sees_window("Auswahl der Datei zum Plotten"));
+    QTest::qWait(500);
+    program->type(text.trimmed());
+    program->key("Return");
+    QTRY_VERIFY(program->sees(first_file_row, Qt::black) > 20);
+}
+
+void tst_hydrograph_road::select_row(int row) const
+{
+    program->click(place::files.topLeft() + QPoint(100, 9 + 16 * row));
+}
+
+void tst_hydrograph_road::file_dialog_by_typing()
+{
+    add_by_typing({"Erlenbach_K1.wel", "Erlenbach_B1.wel"});
+    const QRect second_row = first_file_row.translated(0, 16);
+    QVERIFY(program->sees(second_row, Qt::black) > 20);
+    QCOMPARE(program->sees(second_row.translated(0, 32), Qt::black), 0);
+    // Nothing is drawn before "Plot".
+    QCOMPARE(program->sees(place::lower_plot, blue), 0);
+}
+
+// The dialog opens on the working folder and lists the file there, and not the text file.
+void tst_hydrograph_road::file_dialog_by_clicking()
+{
+    QVERIFY(program->bring("Erlenbach_K1.wel"));
+    QFile other(program->path_of("A.txt"));
+    QVERIFY(other.open(QIODevice::WriteOnly));
+    other.close();
+    program->choose_file_entry(0);
+    QVERIFY(viewer::sees_window("Auswahl der Datei zum Plotten"));
+    QTest::qWait(1000);
+    const QString dialog = xdotool({"search", "--onlyvisible", "--name", "Auswahl der Datei"});
+    const QStringList geometry = xdotool({"getwindowgeometry", "--shell", dialog}).split('\n');
+    const auto number = [&](const QString& name) {
+        return geometry.filter(QRegularExpression("^" + name + "=")).value(0).section('=', 1).toInt();
+    };
+    // The first row of the list of files: beside the side bar, below the tool buttons.
+    const QPoint first(number("X") + 200, number("Y") + 52);
+    xdotool({"mousemove", QString::number(first.x()), QString::number(first.y()), "click", "1"});
+    QTest::qWait(300);
+    xdotool({"key", "alt+o"});
+    QTRY_VERIFY(program->sees(first_file_row, Qt::black) > 20);
+    select_row(0);
+    program->click(place::plot_button.center());
+    QVERIFY(program->sees(place::lower_plot, blue) > 200); // it was the WEL file
+}
+
+void tst_hydrograph_road::drop_from_another_program()
+{
+    for (const char* name : {"Erlenbach_K1.wel", "Erlenbach_P1.wel"})
+        QVERIFY(program->bring(name));
+    QFile other(program->path_of("notes.txt"));
+    QVERIFY(other.open(QIODevice::WriteOnly));
+    other.close();
+    QList<QUrl> urls;
+    for (const char* name : {"Erlenbach_K1.wel", "notes.txt", "Erlenbach_P1.wel"})
+        urls.append(QUrl::fromLocalFile(program->path_of(name)));
+    drag_source source(urls);
+    QVERIFY(QTest::qWaitForWindowExposed(&source));
+    for (int run = 0; run < 2; ++run) { // the second drop adds nothing
+        source.finished = false;
+        drag_to(source, program->on_screen(place::files.center()));
+        QTRY_VERIFY_WITH_TIMEOUT(source.finished, 10000);
+        QCOMPARE(source.result, Qt::CopyAction);
+        QTest::qWait(300);
+        QVERIFY(program->sees(first_file_row, Qt::black) > 20);
+        QVERIFY(program->sees(first_file_row.translated(0, 16), Qt::black) > 20);
+        QCOMPARE(program->sees(first_file_row.translated(0, 32), Qt::black), 0);
+    }
+    for (const QUrl& url : urls)
+        QVERIFY(QFile::exists(url.toLocalFile()));
+}
+
+void tst_hydrograph_road::plot_zoom_pan_and_clear()
+{
+    add_by_typing({"Erlenbach_K1.wel"});
+    select_row(0);
+    const QImage empty = program->look(place::lower_plot);
+    program->click(place::plot_button.center());
+    QVERIFY(program->sees(place::lower_plot, blue) > 100);
+    QVERIFY(program->sees(place::lower_plot, green) > 100);
+    QVERIFY(program->sees(place::upper_plot, blue) > 50);
+    QVERIFY(program->sees(place::upper_plot, red) > 50);
+    const QImage drawn = program->look(place::lower_plot);
+    const QImage upper = program->look(place::upper_plot);
+    if (qEnvironmentVariableIsSet("KORIMO_SCREENSHOTS"))
+        screenshot().save("screenshot_plot.png");
+
+    // The left axes stand in the first 60 pixels of the plots, the bottom axes below the canvas.
+    const QRect left_axis(0, 30, 85, 280);
+    const QPoint middle = place::lower_plot.center() - QPoint(30, 20);
+    program->wheel(middle, 3);
+    const QImage zoomed = program->look(place::lower_plot);
+    QVERIFY(zoomed != drawn);
+    QCOMPARE(zoomed.copy(left_axis), drawn.copy(left_axis));
+    QVERIFY(program->look(place::upper_plot) != upper); // follows
+
+    const QImage upper_zoomed = program->look(place::upper_plot);
+    program->wheel(middle, 3, "shift");
+    QVERIFY(program->look(place::lower_plot).copy(left_axis) != zoomed.copy(left_axis));
+    QCOMPARE(program->look(place::upper_plot), upper_zoomed); // stays
+
+    program->drag_right(middle, middle + QPoint(80, 0));
+    QVERIFY(program->look(place::upper_plot) != upper_zoomed); // follows
+
+    const QImage before = program->look(place::upper_plot);
+    program->wheel(place::upper_plot.center(), 3);
+    program->drag_right(place::upper_plot.center(), place::upper_plot.center() + QPoint(80, 0));
+    QCOMPARE(program->look(place::upper_plot), before);
+
+    program->click(place::plot_button.center());
+    for (const QColor& colour : {blue, green, red}) {
+        QCOMPARE(program->sees(place::lower_plot, colour), 0);
+        QCOMPARE(program->sees(place::upper_plot, colour), 0);
+    }
+    program->click(place::plot_button.center());
+    QTest::qWait(300);
+    QCOMPARE(program->look(place::lower_plot), drawn);
+    QCOMPARE(program->look(place::upper_plot), upper);
+}
+
+void tst_hydrograph_road::change_of_file_and_removal()
+{
+    add_by_typing({"Erlenbach_B1.wel", "Erlenbach_P1.wel"});
+    select_row(0);
+    program->click(place::plot_button.center());
+    QVERIFY(program->sees(place::lower_plot, red) > 100);
+    QVERIFY(program->sees(place::upper_plot, red) > 100);
+    select_row(1);
+    QCOMPARE(program->sees(place::lower_plot, red), 0);
+    QCOMPARE(program->sees(place::upper_plot, red), 0);
+    program->click(place::plot_button.center());
+    QVERIFY(program->sees(place::lower_plot, blue) > 50);
+    QVERIFY(program->sees(place::lower_plot, green) > 50);
+    QCOMPARE(program->sees(place::upper_plot, red), 0);
+    program->click(place::remove_button.center());
+    QCOMPARE(program->sees(place::lower_plot, blue), 0);
+    QCOMPARE(program->sees(first_file_row.translated(0, 16), Qt::black), 0);
+    program->click(place::remove_button.center());
+    const QImage empty_list = program->look(first_file_row);
+    QCOMPARE(pixels_of(empty_list, empty_list.rect(), Qt::white), 300 * 16);
+}
+
+void tst_hydrograph_road::two_steps_of_a_basin_table()
+{
+    add_by_typing({"Erlenbach.bek"});
+    select_row(0);
+    QCOMPARE(program->sees(place::names, Qt::black), 0);
+    program->click(place::plot_button.center());
+    QVERIFY(program->sees(place::names, Qt::black) > 20);
+    QCOMPARE(program->sees(place::lower_plot, blue), 0);
+    program->click(place::plot_button.center());
+    QCOMPARE(program->sees(place::names, Qt::black), 0);
+}
+
+void tst_hydrograph_road::message_without_selection()
+{
+    program->click(place::plot_button.center());
+    QVERIFY(viewer::sees_window("Error"));
+    program->key("Return");
+    QVERIFY(QTest::qWaitFor(
+        [] { return xdotool({"search", "--onlyvisible", "--name", "^Error$"}).isEmpty(); }));
+}
+
+void tst_hydrograph_road::closing_from_the_menu()
+{
+    program->choose_file_entry(2);
+    QCOMPARE(program->exit_code(), 0);
+}
+
+QTEST_APPLESS_MAIN(tst_hydrograph_road)
+#include "tst_hydrograph_road.moc"

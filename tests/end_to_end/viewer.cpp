@@ -1,0 +1,149 @@
+#include "tests/end_to_end/viewer.h"
+
+#include "tests/end_to_end/desktop.h"
+
+#include <QDeadlineTimer>
+#include <QFile>
+#include <QTest>
+
+namespace {
+
+constexpr int seconds = 1000;
+constexpr int settled = 250; // time for the program to handle input and paint
+
+QStringList place_words(const QPoint& point)
+{
+    return {QString::number(point.x()), QString::number(point.y())};
+}
+
+QStringList visible_windows(const QString& title)
+{
+    return xdotool({"search", "--onlyvisible", "--name", "^" + title + "$"})
+        .split('\n', Qt::SkipEmptyParts);
+}
+
+} // namespace
+
+viewer::viewer()
+{
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert("QT_QPA_PLATFORM", "xcb");
+    program.setProcessEnvironment(environment);
+    program.setWorkingDirectory(folder.path());
+    program.setStandardErrorFile(folder.filePath("log"));
+    program.start(VIEWER, QStringList());
+}
+
+viewer::~viewer()
+{
+    if (program.state() != QProcess::NotRunning) {
+        program.kill();
+        program.waitForFinished();
+    }
+}
+
+bool viewer::is_shown()
+{
+    const QDeadlineTimer deadline(20 * seconds);
+    while (!deadline.hasExpired()) {
+        for (const QString& candidate : visible_windows("plot_korimo")) {
+            const QString geometry = xdotool({"getwindowgeometry", "--shell", candidate});
+            if (!geometry.contains("WIDTH=941\nHEIGHT=848"))
+                continue;
+            xdotool({"windowmove", "--sync", candidate, "100", "60"});
+            QTest::qWait(settled);
+            inside = QPoint(100, 60);
+            origin = inside + QPoint(0, central_widget_top());
+            return true;
+        }
+        QTest::qWait(100);
+    }
+    return false;
+}
+
+// Menu and tool bar are as high as their font; the grey of the window begins below them.
+int viewer::central_widget_top() const
+{
+    const QImage screen = screenshot();
+    int top = 0;
+    while (top < 200 && screen.pixelColor(inside + QPoint(5, top)) != QColor("#c9c7c7"))
+        ++top;
+    return top;
+}
+
+bool viewer::bring(const QString& example) const
+{
+    return QFile::copy(QString(EXAMPLES_DIR) + "/" + example, folder.filePath(example));
+}
+
+void viewer::click(const QPoint& point) const
+{
+    xdotool(QStringList{"mousemove"} + place_words(on_screen(point)) + QStringList{"click", "1"});
+    QTest::qWait(settled);
+}
+
+void viewer::wheel(const QPoint& point, int notches, const QString& modifier) const
+{
+    xdotool(QStringList{"mousemove"} + place_words(on_screen(point)));
+    if (!modifier.isEmpty())
+        xdotool({"keydown", modifier});
+    xdotool({"click", "--repeat", QString::number(qAbs(notches)), "--delay", "60",
+             notches > 0 ? "4" : "5"});
+    QTest::qWait(settled);
+    if (!modifier.isEmpty())
+        xdotool({"keyup", modifier});
+}
+
+void viewer::drag_right(const QPoint& from, const QPoint& to) const
+{
+    xdotool(QStringList{"mousemove"} + place_words(on_screen(from)) + QStringList{"mousedown", "3"});
+    const QPoint middle = (from + to) / 2;
+    for (const QPoint& point : {middle, to}) {
+        xdotool(QStringList{"mousemove"} + place_words(on_screen(point)));
+        QTest::qWait(50);
+    }
+    xdotool({"mouseup", "3"});
+    QTest::qWait(settled);
+}
+
+void viewer::type(const QString& text) const
+{
+    xdotool({"type", "--delay", "5", text});
+    QTest::qWait(settled);
+}
+
+void viewer::key(const QString& name) const
+{
+    xdotool({"key", name});
+    QTest::qWait(settled);
+}
+
+void viewer::choose_file_entry(int entry) const
+{
+    click(inside - origin + QPoint(25, 10));
+    for (int i = 0; i <= entry; ++i)
+        key("Down");
+    key("Return");
+}
+
+bool viewer::sees_window(const QString& title)
+{
+    return QTest::qWaitFor([&] { return !visible_windows(title).isEmpty(); }, 10 * seconds);
+}
+
+QImage viewer::look(const QRect& area) const
+{
+    return screenshot().copy(area.translated(origin));
+}
+
+int viewer::sees(const QRect& area, const QColor& colour) const
+{
+    return pixels_of(screenshot(), area.translated(origin), colour);
+}
+
+int viewer::exit_code()
+{
+    const bool ended = program.state() == QProcess::NotRunning
+                       || program.waitForFinished(10 * seconds);
+    return ended && program.exitStatus() == QProcess::NormalExit ? program.exitCode() : -1;
+}

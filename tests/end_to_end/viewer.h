@@ -1,0 +1,63 @@
+#pragma once
+
+#include <QImage>
+#include <QProcess>
+#include <QRect>
+#include <QTemporaryDir>
+
+/// The real program, run as a user runs it, with hands on mouse and keyboard and eyes on the screen.
+/// Places are given in pixels of the window's central widget, as the form gives them.
+class viewer
+{
+public:
+    /// Starts the program in a folder of its own.
+    viewer();
+    ~viewer();
+
+    viewer(const viewer&) = delete;
+    viewer& operator=(const viewer&) = delete;
+
+    /// Waits for the window; false if it does not come up.
+    bool is_shown();
+    QString path_of(const QString& file_name) const { return folder.filePath(file_name); }
+    /// Copies a file of the examples into the program's folder.
+    bool bring(const QString& example) const;
+
+    void click(const QPoint& place) const;
+    void wheel(const QPoint& place, int notches, const QString& modifier = {}) const;
+    void drag_right(const QPoint& from, const QPoint& to) const;
+    void type(const QString& text) const;
+    void key(const QString& name) const;
+    /// Opens "Datei", goes down to an entry (counted from 0) and chooses it.
+    void choose_file_entry(int entry) const;
+    /// Waits until a window of the program has this title.
+    static bool sees_window(const QString& title);
+
+    QPoint on_screen(const QPoint& place) const { return origin + place; }
+    /// What the window shows of an area.
+    QImage look(const QRect& area) const;
+    int sees(const QRect& area, const QColor& colour) const;
+
+    /// The exit code, once the program has ended by itself; -1 if it does not.
+    int exit_code();
+
+private:
+    int central_widget_top() const;
+
+    QTemporaryDir folder;
+    QProcess program;
+    QPoint inside; // of the window, on the screen
+    QPoint origin; // of the central widget, on the screen
+};
+
+// Where things are in the window's central widget.
+namespace place {
+
+inline constexpr QRect upper_plot{30, 50, 681, 200};
+inline constexpr QRect lower_plot{30, 260, 681, 381};
+inline constexpr QRect names{725, 51, 191, 591};
+inline constexpr QRect files{80, 660, 541, 121};
+inline constexpr QRect plot_button{630, 710, 81, 23};
+inline constexpr QRect remove_button{630, 740, 81, 23};
+
+} // namespace place

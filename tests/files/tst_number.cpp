@@ -1,0 +1,153 @@
+#include "plot/reading/number.h"
+
+#include <QRandomGenerator>
+#include <QTest>
+
+#include <bit>
+#include <clocale>
+#include <cmath>
+
+namespace {
+
+std::optional<double> by_qt(const QString& token)
+{
+    bool ok = false;
+    const double value = token.toDouble(&ok);
+    return ok ? std::optional(value) : std::nullopt;
+}
+
+bool same(std::optional<double> a, std::optional<double> b)
+{
+    if (!a || !b)
+        return a.has_value() == b.has_value();
+    if (std::isnan(*a) || std::isnan(*b))
+        return std::isnan(*a) && std::isnan(*b);
+    return std::bit_cast<quint64>(*a) == std::bit_cast<quint64>(*b);
+}
+
+QString random_token(QRandomGenerator& random)
+{
+    static const QString letters = QStringLiteral("0123456789012345678901234567890.eE+-, infNA\t\u00a0x");
+    QString token;
+    const int length = random.bounded(1, 24);
+    for (int i = 0; i < length; ++i)
+        token.append(letters[random.bounded(letters.size())]);
+    return token;
+}
+
+} // namespace
+
+class tst_number : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void locale_is_the_one_asked_for();
+    void number_data();
+    void number();
+    void random_tokens_as_qt();
+    void random_doubles_in_all_notations();
+};
+
+// The test is run in several locales; without the locale on the system it would test nothing.
+void tst_number::locale_is_the_one_asked_for()
+{
+    const bool german = qEnvironmentVariable("LC_ALL").startsWith("de");
+    QCOMPARE(QString(std::localeconv()->decimal_point), german ? "," : ".");
+    QCOMPARE(QLocale().decimalPoint(), german ? "," : ".");
+}
+
+void tst_number::number_data()
+{
+    QTest::addColumn<QString>("token");
+    QTest::addColumn<bool>("is_number");
+    QTest::addColumn<double>("value");
+    const auto number = [](const char* token, double value) {
+        QTest::newRow(token) << QString::fromUtf8(token) << true << value;
+    };
+    const auto text = [](const char* token) {
+        QTest::newRow(token) << QString::fromUtf8(token) << false << 0.0;
+    };
+    number("0", 0.0);
+    number("-0", -0.0);
+    number("00012", 12.0);
+    number("1.25", 1.25);
+    number("+1.25", 1.25);
+    number("-1.25", -1.25);
+    number("1.", 1.0);
+    number(".5", 0.5);
+    number("1e5", 1e5);
+    number("1E5", 1e5);
+    number("1.0E+00", 1.0);
+    number("2.5e-3", 2.5e-3);
+    number("1e0000000000000000001", 10.0);
+    number("4.9e-324", 4.9e-324);
+    number("1.7976931348623157e308", 1.7976931348623157e308);
+    number("inf", INFINITY);
+    number("-INF", -INFINITY);
+    number("nan", std::nan(""));
+    number("\t1", 1.0);
+    number("1\t", 1.0);
+    number("\u00a01", 1.0);
+    text("1,5");
+    text("1'000");
+    text("1_0");
+    text("0x10");
+    text("1d5");
+    text("1e");
+    text("1e+");
+    text("e5");
+    text(".");
+    text("-");
+    text("--1");
+    text("+-1");
+    text("1.5.");
+    text("1e5.5");
+    text("1e400");
+    text("1e-400");
+    text("infinity");
+    text("\uff11");
+    text("\u22121");
+    text("\u06611");
+    QTest::newRow("byte-order mark") << QString(QChar(0xfeff)) + "1" << false << 0.0;
+    text("Zeit");
+}
+
+void tst_number::number()
+{
+    QFETCH(QString, token);
+    QFETCH(bool, is_number);
+    QFETCH(double, value);
+    const std::optional<double> expected = is_number ? std::optional(value) : std::nullopt;
+    QVERIFY(same(number_in(token.toUtf8()), expected));
+    QVERIFY(same(by_qt(token), expected));
+}
+
+void tst_number::random_tokens_as_qt()
+{
+    QRandomGenerator random(20261);
+    int numbers = 0;
+    for (int i = 0; i < 300000; ++i) {
+        const QString token = random_token(random);
+        const std::optional<double> expected = by_qt(token);
+        numbers += expected ? 1 : 0;
+        QVERIFY2(same(number_in(token.toUtf8()), expected), qPrintable(token));
+    }
+    QVERIFY(numbers > 1000);
+}
+
+void tst_number::random_doubles_in_all_notations()
+{
+    QRandomGenerator random(20262);
+    for (int i = 0; i < 100000; ++i) {
+        const double value = std::bit_cast<double>(random.generate64());
+        if (!std::isfinite(value))
+            continue;
+        const char format = "efgEG"[random.bounded(5)];
+        const QString token = QString::number(value, format, random.bounded(0, 20));
+        QVERIFY2(same(number_in(token.toUtf8()), by_qt(token)), qPrintable(token));
+    }
+}
+
+QTEST_GUILESS_MAIN(tst_number)
+#include "tst_number.moc"

@@ -1,0 +1,119 @@
+#include "plot/reading/text_lines.h"
+
+#include <QBuffer>
+#include <QFile>
+#include <QRandomGenerator>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTextStream>
+
+namespace {
+
+using namespace Qt::StringLiterals;
+
+// What the lines are measured against: a text stream on a file in text mode.
+QStringList stream_lines(const QByteArray& bytes)
+{
+    const QTemporaryDir folder;
+    QFile file(folder.filePath("text"));
+    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
+        qFatal("cannot write a temporary file");
+    file.close();
+    if (!file.open(QIODevice::ReadOnly | QIODevice::Text))
+        qFatal("cannot read a temporary file");
+    QTextStream stream(&file);
+    QStringList lines;
+    while (!stream.atEnd())
+        lines.append(stream.readLine());
+    return lines;
+}
+
+QStringList our_lines(QByteArray bytes)
+{
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::ReadOnly);
+    text_lines lines(buffer);
+    QStringList result;
+    QByteArrayView line;
+    while (lines.next(line))
+        result.append(decoded(line));
+    return result;
+}
+
+} // namespace
+
+class tst_text_lines : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void lines_data();
+    void lines();
+    void lines_longer_than_a_block();
+    void random_bytes_as_a_text_stream();
+};
+
+void tst_text_lines::lines_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<QStringList>("expected");
+    using list = QStringList;
+    QTest::newRow("empty") << ""_ba << list();
+    QTest::newRow("one line") << "a\n"_ba << list{"a"};
+    QTest::newRow("missing last newline") << "a\nb"_ba << list{"a", "b"};
+    QTest::newRow("empty lines") << "\n\na\n\n"_ba << list{"", "", "a", ""};
+    QTest::newRow("CR LF") << "a\r\nb\r\n"_ba << list{"a", "b"};
+    QTest::newRow("CR inside") << "1\r2\n"_ba << list{"12"};
+    QTest::newRow("CR only") << "a\rb\r"_ba << list{"ab"};
+    QTest::newRow("several CR") << "a\r\r\n\r\n\rb"_ba << list{"a", "", "b"};
+    QTest::newRow("UTF-8") << "m\xC3\xBCNHN\n"_ba << list{u"müNHN"_s};
+    QTest::newRow("UTF-8 mark") << "\xEF\xBB\xBF" "1\n\xEF\xBB\xBF" "2"_ba
+                                << list{"1", u"\uFEFF2"_s};
+    QTest::newRow("mark alone") << "\xEF\xBB\xBF"_ba << list{""};
+    QTest::newRow("CR alone") << "\r\r"_ba << list{""};
+    QTest::newRow("half a character alone") << "\xE2\x82"_ba << list{""};
+    QTest::newRow("CR behind the last newline") << "a\n\r"_ba << list{"a"};
+    QTest::newRow("half a character behind it") << "a\n\xE2\x82"_ba << list{"a"};
+    QTest::newRow("UTF-16 LE") << QByteArray("\xFF\xFE" "1\0\r\0\n\0" "2\0", 10) << list{"1", "2"};
+    QTest::newRow("UTF-16 BE") << QByteArray("\xFE\xFF\0" "1\0\n\0" "2", 8) << list{"1", "2"};
+    QTest::newRow("UTF-32 LE") << QByteArray("\xFF\xFE\0\0" "1\0\0\0\n\0\0\0", 12) << list{"1"};
+    QTest::newRow("not UTF-8") << "a\xFF" "b\xC3\n\xE4"_ba << list{u"a\uFFFDb\uFFFD"_s};
+    QTest::newRow("cut in the last character") << "1 2 \xE2\x82"_ba << list{"1 2 "};
+    QTest::newRow("CR inside a character") << "\xC3\r\xA9\n"_ba << list{u"\uFFFD\uFFFD"_s};
+    QTest::newRow("CR behind half a character") << "a\xC3\r\n"_ba << list{u"a\uFFFD"_s};
+    QTest::newRow("NUL") << QByteArray("a\0b\n", 4) << list{QString::fromLatin1("a\0b", 3)};
+    QTest::newRow("other breaks") << "a\vb\fc\x85\n"_ba << list{u"a\vb\fc\uFFFD"_s};
+}
+
+void tst_text_lines::lines()
+{
+    QFETCH(QByteArray, bytes);
+    QFETCH(QStringList, expected);
+    QCOMPARE(stream_lines(bytes), expected);
+    QCOMPARE(our_lines(bytes), expected);
+}
+
+void tst_text_lines::lines_longer_than_a_block()
+{
+    const QByteArray longest(3'000'001, 'x');
+    const QByteArray bytes = longest + "\n1\n" + longest + "\r\n" + longest;
+    QCOMPARE(our_lines(bytes), (QStringList{longest, "1", longest, longest}));
+}
+
+void tst_text_lines::random_bytes_as_a_text_stream()
+{
+    const QByteArrayList pieces = {"\n", "\n",   "\r",   "\r\n", " ",    "1",    "2.5",  "\xC3",
+                                   "\xA4", "\xC3\xA4", "\xE2\x82\xAC", "\xF0\x9F\x92\xA7", "\xFF",
+                                   "\xFE", "\xEF\xBB\xBF", QByteArray(1, '\0'), "\xED\xA0\x80",
+                                   "\xC0\x80", "\xF4\x90\x80\x80"};
+    QRandomGenerator random(20263);
+    for (int i = 0; i < 4000; ++i) {
+        QByteArray bytes;
+        for (int n = random.bounded(1, 40); n > 0; --n)
+            bytes += pieces[random.bounded(pieces.size())];
+        QCOMPARE(our_lines(bytes), stream_lines(bytes));
+    }
+}
+
+QTEST_GUILESS_MAIN(tst_text_lines)
+#include "tst_text_lines.moc"

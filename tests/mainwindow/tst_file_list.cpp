@@ -1,0 +1,285 @@
+#include "tests/support/modal_boxes.h"
+#include "tests/support/window_driver.h"
+
+#include <QDialogButtonBox>
+#include <QDragEnterEvent>
+#include <QDropEvent>
+#include <QAbstractItemView>
+#include <QComboBox>
+#include <QFileDialog>
+#include <QListView>
+#include <QListWidget>
+#include <QMimeData>
+#include <QPushButton>
+#include <QTest>
+#include <QUrl>
+
+namespace {
+
+// Runs `act` on the file dialog as soon as it is open. A dialog that stays open is closed later, so
+// that the test goes on to fail.
+template <class action>
+void with_file_dialog(const action& act)
+{
+    QTimer::singleShot(20000, qApp, [] {
+        if (auto* const dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget()))
+            dialog->reject();
+    });
+    QTimer::singleShot(0, [act] {
+        QFileDialog* dialog = nullptr;
+        QTRY_VERIFY((dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget())));
+        act(*dialog);
+    });
+}
+
+QStringList listed_files(const QFileDialog& dialog)
+{
+    const auto* const view = dialog.findChild<QListView*>("listView");
+    QStringList names;
+    for (int row = 0; row < view->model()->rowCount(view->rootIndex()); ++row)
+        names.append(view->model()->index(row, 0, view->rootIndex()).data().toString());
+    names.sort();
+    return names;
+}
+
+bool is_accepted_at_entry(MainWindow& window, const QMimeData& data, Qt::DropActions offered)
+{
+    QDragEnterEvent event(QPoint(10, 10), offered, &data, Qt::LeftButton, Qt::NoModifier);
+    event.ignore();
+    QApplication::sendEvent(&window, &event);
+    return event.isAccepted();
+}
+
+// Enters the window and drops there; answers what the source is told was done.
+Qt::DropAction drop(MainWindow& window, const QMimeData& data,
+                    Qt::DropActions offered = Qt::CopyAction)
+{
+    is_accepted_at_entry(window, data, offered);
+    QDropEvent event(QPointF(10, 10), offered, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&window, &event);
+    return event.dropAction();
+}
+
+Qt::DropAction drop(MainWindow& window, const QList<QUrl>& urls,
+                    Qt::DropActions offered = Qt::CopyAction)
+{
+    QMimeData data;
+    data.setUrls(urls);
+    return drop(window, data, offered);
+}
+
+} // namespace
+
+class tst_file_list : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void drag_enter();
+    void drops_data();
+    void drops();
+    void dropped_twice();
+    void drop_is_a_copy();
+    void drop_without_urls();
+    void dialog_lists_the_three_kinds_data();
+    void dialog_lists_the_three_kinds();
+    void dialog_adds_in_order_and_once();
+    void dialog_cancelled();
+    void remove_from_empty_list();
+    void remove_without_selection();
+    void remove_selected_data();
+    void remove_selected();
+};
+
+void tst_file_list::drag_enter()
+{
+    MainWindow window;
+    QMimeData text;
+    text.setText("file:///a/b.wel");
+    QVERIFY(!is_accepted_at_entry(window, text, Qt::CopyAction));
+    QMimeData urls;
+    urls.setUrls({QUrl("https://example.org/picture.png")});
+    QVERIFY(is_accepted_at_entry(window, urls, Qt::CopyAction));
+    QVERIFY(is_accepted_at_entry(window, urls, Qt::MoveAction | Qt::CopyAction));
+}
+
+void tst_file_list::drops_data()
+{
+    QTest::addColumn<QStringList>("urls");
+    QTest::addColumn<QStringList>("rows");
+    using list = QStringList;
+    QTest::newRow("the three kinds") << list{"file:///a/x.wel", "file:///a/y.BEK", "file:///a/z.Dkl"}
+                                     << list{"/a/x.wel", "/a/y.BEK", "/a/z.Dkl"};
+    QTest::newRow("other kinds") << list{"file:///a/x.txt", "file:///a/x.wel.bak", "file:///a/"}
+                                 << list{};
+    QTest::newRow("no dot") << list{"file:///a/xwel"} << list{"/a/xwel"};
+    QTest::newRow("not local") << list{"https://example.org/x.wel", "wel"} << list{};
+    QTest::newRow("umlauts and blanks")
+        << list{"file:///a/Döbeln%20Süd.wel"} << list{"/a/Döbeln Süd.wel"};
+    QTest::newRow("text of the URL, not the path")
+        << list{"file:///a/x.txt?y.wel", "file:///a/x.wel#1"} << list{"/a/x.txt"};
+    QTest::newRow("case matters") << list{"file:///a/x.wel", "file:///a/X.wel"}
+                                  << list{"/a/x.wel", "/a/X.wel"};
+}
+
+void tst_file_list::drops()
+{
+    QFETCH(QStringList, urls);
+    QFETCH(QStringList, rows);
+    window_driver driver;
+    QList<QUrl> dropped;
+    for (const QString& url : urls)
+        dropped.append(QUrl(url));
+    drop(driver.window, dropped);
+    QCOMPARE(driver.files(), rows);
+    QVERIFY(driver.list->selectedItems().isEmpty());
+}
+
+void tst_file_list::dropped_twice()
+{
+    window_driver driver;
+    const QList<QUrl> urls{QUrl("file:///a/x.wel"), QUrl("file:///a/x.wel")};
+    drop(driver.window, urls);
+    drop(driver.window, urls);
+    QCOMPARE(driver.files(), QStringList{"/a/x.wel"});
+}
+
+void tst_file_list::drop_is_a_copy()
+{
+    window_driver driver;
+    const QList<QUrl> urls{QUrl("file:///a/x.wel")};
+    QCOMPARE(drop(driver.window, urls, Qt::MoveAction | Qt::CopyAction), Qt::CopyAction);
+    QCOMPARE(drop(driver.window, urls, Qt::MoveAction), Qt::IgnoreAction);
+    QCOMPARE(driver.list->count(), 1);
+}
+
+void tst_file_list::drop_without_urls()
+{
+    window_driver driver;
+    QMimeData data;
+    data.setText("/a/x.wel");
+    drop(driver.window, data);
+    QCOMPARE(driver.list->count(), 0);
+}
+
+void tst_file_list::dialog_lists_the_three_kinds_data()
+{
+    QTest::addColumn<bool>("choose_filter_again");
+    QTest::newRow("as opened") << false;
+    QTest::newRow("filter chosen again") << true;
+}
+
+void tst_file_list::dialog_lists_the_three_kinds()
+{
+    QFETCH(bool, choose_filter_again);
+    window_driver driver;
+    for (const char* name : {"a.wel", "b.BEK", "c.dkl", "d.txt", "ewel", "fbek"})
+        driver.add(name, "");
+    driver.list->clear();
+    QStringList found;
+    QString caption;
+    QString filter;
+    with_file_dialog([&](QFileDialog& dialog) {
+        caption = dialog.windowTitle();
+        filter = dialog.nameFilters().join("|");
+        dialog.setDirectory(driver.folder.path());
+        if (choose_filter_again) {
+            auto* const filters = dialog.findChild<QComboBox*>("fileTypeCombo");
+            filters->showPopup();
+            QTest::keyClick(filters->view(), Qt::Key_Return);
+        }
+        QTRY_VERIFY(listed_files(dialog).contains("a.wel"));
+        QTRY_COMPARE(listed_files(dialog), (QStringList{"a.wel", "b.BEK", "c.dkl", "fbek"}));
+        found = listed_files(dialog);
+        dialog.reject();
+    });
+    driver.window.selectFiles();
+    QCOMPARE(found.size(), 4);
+    QCOMPARE(caption, "Auswahl der Datei zum Plotten");
+    QCOMPARE(filter, "*bek;*.wel;*dkl");
+    QCOMPARE(driver.list->count(), 0);
+}
+
+void tst_file_list::dialog_adds_in_order_and_once()
+{
+    window_driver driver;
+    const QString first = driver.add("a.wel", "");
+    const QString second = driver.add("b.bek", "");
+    driver.list->clear();
+    for (int run = 0; run < 2; ++run) {
+        with_file_dialog([&](QFileDialog& dialog) {
+            dialog.setDirectory(driver.folder.path());
+            QTRY_COMPARE(listed_files(dialog), (QStringList{"a.wel", "b.bek"}));
+            auto* const view = dialog.findChild<QListView*>("listView");
+            for (const int row : {1, 0}) {
+                const QModelIndex index = view->model()->index(row, 0, view->rootIndex());
+                QTest::mouseClick(view->viewport(), Qt::LeftButton,
+                                  row == 0 ? Qt::ControlModifier : Qt::NoModifier,
+                                  view->visualRect(index).center());
+            }
+            const auto* const buttons = dialog.findChild<QDialogButtonBox*>("buttonBox");
+            QTest::mouseClick(buttons->button(QDialogButtonBox::Open), Qt::LeftButton);
+        });
+        driver.window.findChild<QAction*>("action_oeffnen")->trigger();
+        QCOMPARE(driver.files(), (QStringList{second, first}));
+    }
+    QVERIFY(driver.list->selectedItems().isEmpty());
+    QCOMPARE(driver.button->text(), "Plot");
+}
+
+void tst_file_list::dialog_cancelled()
+{
+    window_driver driver;
+    with_file_dialog([](QFileDialog& dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); });
+    driver.window.on_action_oeffenen_triggered();
+    QCOMPARE(driver.list->count(), 0);
+}
+
+void tst_file_list::remove_from_empty_list()
+{
+    window_driver driver;
+    const modal_boxes boxes;
+    driver.press(driver.remove);
+    QVERIFY(boxes.shown().isEmpty());
+}
+
+void tst_file_list::remove_without_selection()
+{
+    window_driver driver;
+    driver.add("x_K.wel", node_file(3));
+    const modal_boxes boxes;
+    driver.press(driver.remove);
+    QCOMPARE(boxes.shown().size(), 1);
+    QCOMPARE(boxes.shown()[0].title, "Error");
+    QCOMPARE(boxes.shown()[0].text, "Pleae select one file");
+    QCOMPARE(boxes.shown()[0].detailed_text, "");
+    QCOMPARE(boxes.shown()[0].icon, QMessageBox::NoIcon);
+    QVERIFY(boxes.shown()[0].has_window_icon && boxes.shown()[0].was_modal);
+    QCOMPARE(driver.list->count(), 1);
+}
+
+void tst_file_list::remove_selected_data()
+{
+    QTest::addColumn<int>("row");
+    for (int row = 0; row < 3; ++row)
+        QTest::addRow("%d", row) << row;
+}
+
+// Taking a row out makes its neighbour the current row, and the commands follow that one.
+void tst_file_list::remove_selected()
+{
+    QFETCH(int, row);
+    window_driver driver;
+    QStringList paths{driver.add("a_K.wel", node_file(3)), driver.add("b_K.wel", node_file(3)),
+                      driver.add("c_K.wel", node_file(3))};
+    driver.select(row);
+    driver.press(driver.button);
+    QCOMPARE(driver.button->text(), "Clear");
+    driver.press(driver.remove);
+    paths.removeAt(row);
+    QCOMPARE(driver.files(), paths);
+    QCOMPARE(driver.button->text(), "Plot");
+}
+
+QTEST_MAIN(tst_file_list)
+#include "tst_file_list.moc"

@@ -1,0 +1,419 @@
+#include "plot/korimo_plot.h"
+#include "tests/support/modal_boxes.h"
+#include "tests/support/window_driver.h"
+
+#include <qwt_interval.h>
+#include <qwt_plot.h>
+#include <qwt_plot_curve.h>
+#include <qwt_text.h>
+
+#include <QListWidget>
+#include <QPushButton>
+#include <QTest>
+
+namespace {
+
+QwtInterval range(const QwtPlot* plot, QwtAxisId axis)
+{
+    return plot->axisInterval(axis);
+}
+
+QStringList titles_of(const QwtPlot* plot)
+{
+    return {plot->title().text(), plot->axisTitle(QwtAxis::XBottom).text(),
+            plot->axisTitle(QwtAxis::YLeft).text()};
+}
+
+const QStringList no_titles{"", "", ""};
+const QByteArray basin_table = "   B1                                  101.50  0.50  0.00   0.00\n"
+                               "   B2                                  101.50  0.50  0.00   0.00\n";
+
+bool is_drawn(const window_driver& driver)
+{
+    return driver.window.shown_document() && driver.lower->legend()
+           && !driver.lower->itemList().isEmpty();
+}
+
+// Fixes axes of the plots shown, the way the axis commands do it.
+void fix(const window_driver& driver, const QString& axis)
+{
+    korimo_plot& document = *driver.window.shown_document();
+    if (axis == "lower x")
+        document.set_x_axis_scale(driver.lower, {5, 50}, "bottom");
+    else if (axis == "lower second x")
+        document.set_x_axis_scale(driver.lower, {5, 50}, "top");
+    else if (axis == "upper second x")
+        document.set_x_axis_scale(driver.upper, {5, 50}, "top");
+    else if (axis == "upper x")
+        document.set_x_axis_scale(driver.upper, {5, 50}, "bottom");
+    else if (axis == "lower y")
+        document.set_y_axis_scale(driver.lower, {5, 50});
+    else if (axis == "upper y")
+        document.set_y_axis_scale(driver.upper, {5, 50});
+    driver.lower->replot();
+    driver.upper->replot();
+}
+
+const QwtInterval fixed(5, 50);
+const QwtInterval time_of_file(0, 72);
+const QwtInterval flow_of_file(1, 90);
+const QwtInterval rain_of_file(0, 5);
+
+} // namespace
+
+class tst_plot_commands : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void plot_and_clear();
+    void every_kind_is_drawn_data();
+    void every_kind_is_drawn();
+    void button_text_of_a_file_data();
+    void button_text_of_a_file();
+    void plot_without_selection();
+    void read_lists_the_names();
+    void read_twice_lists_once();
+    void clear_after_read();
+    void names_vanish_at_any_press();
+    void unreadable_file();
+    void file_without_marker();
+    void another_file_clears_the_plots();
+    void gap_of_the_legend_closes();
+    void item_change_without_current_item();
+    void ranges_that_nobody_fixed_are_forgotten();
+    void fixed_range_survives_a_change_of_file_data();
+    void fixed_range_survives_a_change_of_file();
+    void fixed_range_outlives_two_changes();
+    void fixed_range_is_shown_on_the_empty_plot();
+    void clear_forgets_fixed_ranges();
+    void window_closed_with_a_plot();
+};
+
+void tst_plot_commands::plot_and_clear()
+{
+    window_driver driver;
+    driver.add("x_K.wel", node_file(9));
+    driver.select(0);
+    QCOMPARE(driver.button->text(), "Plot");
+    driver.press(driver.button);
+    QCOMPARE(driver.button->text(), "Clear");
+    QVERIFY(is_drawn(driver));
+    QCOMPARE(titles_of(driver.lower), (QStringList{"Ganglinien Knoten K1", "Zeit [h] ", "Q [m3/s]"}));
+    QCOMPARE(titles_of(driver.upper), (QStringList{"", "Zeit [h] ", "P [mm]"}));
+    QCOMPARE(range(driver.lower, QwtAxis::XBottom), QwtInterval(0, 72));
+    QCOMPARE(range(driver.lower, QwtAxis::YLeft), QwtInterval(1, 9));
+    QCOMPARE(range(driver.upper, QwtAxis::XBottom), QwtInterval(0, 72));
+    driver.lower->setAxisTitle(QwtAxis::XTop, "top");
+    driver.lower->setAxisVisible(QwtAxis::XTop);
+
+    driver.press(driver.button);
+    QCOMPARE(driver.button->text(), "Plot");
+    QVERIFY(!is_drawn(driver));
+    QVERIFY(driver.lower->itemList().isEmpty() && driver.upper->itemList().isEmpty());
+    QVERIFY(!driver.lower->legend() && !driver.upper->legend());
+    QCOMPARE(titles_of(driver.lower), no_titles);
+    QCOMPARE(titles_of(driver.upper), no_titles);
+    QCOMPARE(driver.lower->axisTitle(QwtAxis::XTop).text(), "");
+    QVERIFY(!driver.lower->isAxisVisible(QwtAxis::XTop));
+    driver.press(driver.button);
+    QVERIFY(is_drawn(driver));
+}
+
+void tst_plot_commands::every_kind_is_drawn_data()
+{
+    QTest::addColumn<int>("columns");
+    QTest::addColumn<int>("lower_curves");
+    QTest::addColumn<int>("upper_curves");
+    QTest::newRow("x_K.wel") << 10 << 2 << 2;
+    QTest::newRow("x_B7.wel") << 7 << 3 << 1;
+    QTest::newRow("x_B9.wel") << 9 << 3 << 1;
+    QTest::newRow("x_T.wel") << 10 << 2 << 0;
+    QTest::newRow("x_V.wel") << 4 << 3 << 0;
+    QTest::newRow("x_P.wel") << 3 << 2 << 0;
+    QTest::newRow("x_E.wel") << 2 << 1 << 0;
+}
+
+void tst_plot_commands::every_kind_is_drawn()
+{
+    QFETCH(int, columns);
+    QFETCH(int, lower_curves);
+    QFETCH(int, upper_curves);
+    window_driver driver;
+    driver.add(QTest::currentDataTag(), "0" + QByteArray(" 1").repeated(columns - 1) + "\n1"
+                                            + QByteArray(" 2").repeated(columns - 1) + "\n");
+    driver.select(0);
+    driver.press(driver.button);
+    QCOMPARE(driver.lower->itemList(QwtPlotItem::Rtti_PlotCurve).size(), lower_curves);
+    QCOMPARE(driver.upper->itemList(QwtPlotItem::Rtti_PlotCurve).size(), upper_curves);
+}
+
+void tst_plot_commands::button_text_of_a_file_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::newRow("data.Wel") << "Plot";
+    QTest::newRow("xwel") << "Plot";
+    QTest::newRow("x.bek") << "Read";
+    QTest::newRow("x.DKL") << "Read";
+    QTest::newRow("x.txt") << "Read";
+}
+
+void tst_plot_commands::button_text_of_a_file()
+{
+    QFETCH(QString, text);
+    window_driver driver;
+    driver.add("other.bek", "");
+    driver.add("other_K.wel", "");
+    driver.add(QTest::currentDataTag(), "");
+    for (const int before : {0, 1}) {
+        driver.select(before);
+        driver.select(2);
+        QCOMPARE(driver.button->text(), text);
+    }
+}
+
+void tst_plot_commands::plot_without_selection()
+{
+    window_driver driver;
+    driver.add("x_K.wel", node_file(9));
+    const modal_boxes boxes;
+    driver.names->addItem("left over");
+    driver.press(driver.button);
+    QCOMPARE(boxes.shown().size(), 1);
+    QCOMPARE(boxes.shown()[0].title, "Error");
+    QCOMPARE(boxes.shown()[0].text, "Pleae select one file");
+    QCOMPARE(boxes.shown()[0].detailed_text, "");
+    QCOMPARE(boxes.shown()[0].buttons, QMessageBox::Ok);
+    QCOMPARE(boxes.shown()[0].icon, QMessageBox::NoIcon);
+    QVERIFY(boxes.shown()[0].has_window_icon && boxes.shown()[0].was_modal);
+    QCOMPARE(driver.button->text(), "Plot");
+    QCOMPARE(driver.names->count(), 0);
+    QVERIFY(!is_drawn(driver));
+}
+
+void tst_plot_commands::read_lists_the_names()
+{
+    window_driver driver;
+    driver.add("x.bek", basin_table);
+    driver.select(0);
+    QCOMPARE(driver.button->text(), "Read");
+    driver.press(driver.button);
+    QCOMPARE(driver.button->text(), "Clear");
+    QCOMPARE(driver.names->count(), 2);
+    QCOMPARE(driver.names->item(0)->text(), "B1   ");
+    QCOMPARE(driver.names->item(1)->text(), "B2   ");
+    QVERIFY(!is_drawn(driver));
+    QCOMPARE(titles_of(driver.lower), no_titles);
+}
+
+void tst_plot_commands::read_twice_lists_once()
+{
+    window_driver driver;
+    driver.add("x.bek", basin_table);
+    driver.select(0);
+    for (int i = 0; i < 3; ++i)
+        driver.press(driver.button);
+    QCOMPARE(driver.names->count(), 2);
+}
+
+void tst_plot_commands::clear_after_read()
+{
+    window_driver driver;
+    driver.add("x.bek", basin_table);
+    driver.select(0);
+    driver.press(driver.button);
+    driver.press(driver.button);
+    QCOMPARE(driver.button->text(), "Read");
+    QCOMPARE(driver.names->count(), 0);
+}
+
+void tst_plot_commands::names_vanish_at_any_press()
+{
+    window_driver driver;
+    driver.add("x_K.wel", node_file(9));
+    driver.select(0);
+    driver.names->addItem("left over");
+    driver.press(driver.button);
+    QCOMPARE(driver.names->count(), 0);
+}
+
+void tst_plot_commands::unreadable_file()
+{
+    window_driver driver;
+    const QString path = driver.add("x_K.wel", node_file(9));
+    QVERIFY(QFile::remove(path));
+    driver.select(0);
+    const modal_boxes boxes;
+    driver.press(driver.button);
+    QCOMPARE(boxes.shown().size(), 2);
+    QCOMPARE(boxes.shown()[0].text, "Could not open or read file");
+    QCOMPARE(boxes.shown()[1].title, "Error plotting curve");
+    QCOMPARE(driver.button->text(), "Clear");
+    QVERIFY(is_drawn(driver)); // finished, without curves
+}
+
+void tst_plot_commands::file_without_marker()
+{
+    window_driver driver;
+    driver.add("Pegel.wel", node_file(9));
+    driver.select(0);
+    const modal_boxes boxes;
+    driver.press(driver.button);
+    QCOMPARE(boxes.shown().size(), 1);
+    QCOMPARE(boxes.shown()[0].title, "Error plotting curve");
+    QCOMPARE(driver.lower->title().text(), "Ganglinien Knoten K1");
+    QVERIFY(driver.lower->itemList(QwtPlotItem::Rtti_PlotCurve).isEmpty());
+}
+
+void tst_plot_commands::another_file_clears_the_plots()
+{
+    window_driver driver;
+    driver.add("x_K.wel", node_file(9));
+    driver.add("x.bek", basin_table);
+    driver.select(0);
+    driver.press(driver.button);
+    driver.select(1);
+    QCOMPARE(driver.button->text(), "Read");
+    QVERIFY(!is_drawn(driver));
+    QCOMPARE(titles_of(driver.lower), no_titles);
+    driver.press(driver.button);
+    driver.select(0);
+    QCOMPARE(driver.button->text(), "Plot");
+    QCOMPARE(driver.names->count(), 0);
+}
+
+void tst_plot_commands::gap_of_the_legend_closes()
+{
+    window_driver driver;
+    driver.add("x_K.wel", node_file(9));
+    driver.select(0);
+    const int lower = driver.lower->canvas()->width();
+    const int upper = driver.upper->canvas()->width();
+    driver.press(driver.button);
+    QCoreApplication::processEvents();
+    QVERIFY(driver.lower->canvas()->width() < lower);
+    driver.press(driver.button);
+    QCOMPARE(driver.lower->canvas()->width(), lower);
+    QCOMPARE(driver.upper->canvas()->width(), upper);
+}
+
+void tst_plot_commands::item_change_without_current_item()
+{
+    window_driver driver;
+    driver.button->setText("as it was");
+    driver.window.listWidget_item_changed();
+    QCOMPARE(driver.button->text(), "as it was");
+}
+
+void tst_plot_commands::ranges_that_nobody_fixed_are_forgotten()
+{
+    window_driver driver;
+    driver.add("a_K.wel", node_file(9));
+    driver.add("b_K.wel", node_file(90));
+    driver.select(0);
+    driver.press(driver.button);
+    driver.lower->setAxisScale(QwtAxis::XBottom, 10, 20); // as the mouse does it
+    driver.lower->replot();
+    driver.select(1);
+    driver.press(driver.button);
+    QCOMPARE(range(driver.lower, QwtAxis::XBottom), QwtInterval(0, 72));
+    QCOMPARE(range(driver.lower, QwtAxis::YLeft), QwtInterval(1, 90));
+}
+
+void tst_plot_commands::fixed_range_survives_a_change_of_file_data()
+{
+    QTest::addColumn<QwtInterval>("lower_x");
+    QTest::addColumn<QwtInterval>("upper_x");
+    QTest::addColumn<QwtInterval>("lower_y");
+    QTest::addColumn<QwtInterval>("upper_y");
+    // The lower time axis takes the upper one along.
+    QTest::newRow("lower x") << fixed << fixed << flow_of_file << rain_of_file;
+    QTest::newRow("lower y") << time_of_file << time_of_file << fixed << rain_of_file;
+    // What is kept is the lower y range, whichever plot's y axis was fixed.
+    QTest::newRow("upper y") << time_of_file << time_of_file << QwtInterval(1, 9) << rain_of_file;
+    // What is kept is the lower x range, whichever plot's x axis was fixed.
+    QTest::newRow("upper x") << time_of_file << time_of_file << flow_of_file << rain_of_file;
+    // What is kept is the upper plot's top range, and it is given to its bottom axis.
+    QTest::newRow("upper second x") << time_of_file << fixed << flow_of_file << rain_of_file;
+    QTest::newRow("lower second x")
+        << time_of_file << QwtInterval(0, 1000) << flow_of_file << rain_of_file;
+}
+
+void tst_plot_commands::fixed_range_survives_a_change_of_file()
+{
+    QFETCH(QwtInterval, lower_x);
+    QFETCH(QwtInterval, upper_x);
+    QFETCH(QwtInterval, lower_y);
+    QFETCH(QwtInterval, upper_y);
+    window_driver driver;
+    driver.add("a_K.wel", node_file(9));
+    driver.add("b_K.wel", node_file(90));
+    driver.select(0);
+    driver.press(driver.button);
+    fix(driver, QTest::currentDataTag());
+    driver.select(1);
+    QVERIFY(!driver.window.shown_document());
+    driver.press(driver.button);
+    QCOMPARE(range(driver.lower, QwtAxis::XBottom), lower_x);
+    QCOMPARE(range(driver.upper, QwtAxis::XBottom), upper_x);
+    QCOMPARE(range(driver.lower, QwtAxis::YLeft), lower_y);
+    QCOMPARE(range(driver.upper, QwtAxis::YLeft), upper_y);
+}
+
+// The new document has no fixed axes of its own; the ranges kept from earlier stay kept.
+void tst_plot_commands::fixed_range_outlives_two_changes()
+{
+    window_driver driver;
+    driver.add("a_K.wel", node_file(9));
+    driver.add("b_K.wel", node_file(90));
+    driver.select(0);
+    driver.press(driver.button);
+    fix(driver, "lower x");
+    for (const int row : {1, 0, 1}) {
+        driver.select(row);
+        driver.press(driver.button);
+        QCOMPARE(range(driver.lower, QwtAxis::XBottom), fixed);
+    }
+}
+
+void tst_plot_commands::fixed_range_is_shown_on_the_empty_plot()
+{
+    window_driver driver;
+    driver.add("a_K.wel", node_file(9));
+    driver.add("b_K.wel", node_file(90));
+    driver.select(0);
+    driver.press(driver.button);
+    fix(driver, "lower y");
+    driver.select(1);
+    QCOMPARE(range(driver.lower, QwtAxis::YLeft), fixed);
+    driver.select(0); // no document: the ranges are forgotten
+    driver.press(driver.button);
+    QCOMPARE(range(driver.lower, QwtAxis::YLeft), QwtInterval(1, 9));
+}
+
+void tst_plot_commands::clear_forgets_fixed_ranges()
+{
+    window_driver driver;
+    driver.add("a_K.wel", node_file(9));
+    driver.select(0);
+    driver.press(driver.button);
+    fix(driver, "lower x");
+    fix(driver, "lower y");
+    driver.press(driver.button);
+    driver.press(driver.button);
+    QCOMPARE(range(driver.lower, QwtAxis::XBottom), time_of_file);
+    QCOMPARE(range(driver.lower, QwtAxis::YLeft), QwtInterval(1, 9));
+}
+
+void tst_plot_commands::window_closed_with_a_plot()
+{
+    auto driver = std::make_unique<window_driver>();
+    driver->add("x_K.wel", node_file(9));
+    driver->select(0);
+    driver->press(driver->button);
+    driver->window.close();
+    driver.reset();
+}
+
+QTEST_MAIN(tst_plot_commands)
+#include "tst_plot_commands.moc"

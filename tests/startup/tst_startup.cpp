@@ -1,0 +1,150 @@
+#include "app/style_sheet.h"
+#include "app/theme_probe.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFile>
+#include <QIcon>
+#include <QTemporaryDir>
+#include <QTest>
+
+namespace {
+
+constexpr char sheet_path[] = ":styles/look_and_feel/global_style.qss";
+
+QByteArray bytes_of(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+QString applied_sheet(const QString& path)
+{
+    QFile sheet(path);
+    apply_style_sheet(*qApp, sheet);
+    return qApp->styleSheet();
+}
+
+#ifndef Q_OS_WIN
+// Where there is no registry, the native settings of that name are a file in the working directory.
+void write_setting(const QByteArray& line)
+{
+    QFile file("HKEY_CURRENT_USER\\Software\\Microsoft\\Windows\\CurrentVersion\\Themes\\Personalize");
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write("[General]\n" + line + "\n");
+}
+#endif
+
+} // namespace
+
+class tst_startup : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+    void resources_data();
+    void resources();
+    void style_sheet_bytes();
+    void light_without_the_setting();
+    void theme_setting_data();
+    void theme_setting();
+    void missing_sheet();
+
+private:
+    QString start_folder = QDir::currentPath();
+    std::unique_ptr<QTemporaryDir> folder;
+};
+
+void tst_startup::init()
+{
+    folder = std::make_unique<QTemporaryDir>();
+    QVERIFY(QDir::setCurrent(folder->path()));
+}
+
+void tst_startup::cleanup()
+{
+    QVERIFY(QDir::setCurrent(start_folder));
+}
+
+void tst_startup::resources_data()
+{
+    QTest::addColumn<QString>("path");
+    QTest::addColumn<QByteArray>("text");
+    QTest::newRow("icon") << ":/icons/look_and_feel/orvan.ico" << QByteArray(1, '\0');
+    QTest::newRow("LGPL") << ":/licenses/look_and_feel/LICENSE.LGPLv3"
+                          << QByteArray("GNU LESSER GENERAL PUBLIC LICENSE");
+    QTest::newRow("GPL") << ":/licenses/look_and_feel/LICENSE.GPLv3"
+                         << QByteArray("GNU GENERAL PUBLIC LICENSE");
+    QTest::newRow("information") << ":/licenses/look_and_feel/Orvan_Info.txt"
+                                 << QByteArray("Orvan Wasser GmbH");
+    QTest::newRow("sheet") << sheet_path << QByteArray("QMainWindow");
+    QTest::newRow("sheet with slash")
+        << ":/styles/look_and_feel/global_style.qss" << QByteArray("QMainWindow");
+}
+
+void tst_startup::resources()
+{
+    QFETCH(QString, path);
+    QFETCH(QByteArray, text);
+    QVERIFY(bytes_of(path).contains(text));
+    if (path.endsWith(".ico"))
+        QVERIFY(!QIcon(path).pixmap(16, 16).isNull());
+}
+
+void tst_startup::style_sheet_bytes()
+{
+    const QByteArray sheet = bytes_of(sheet_path);
+    QCOMPARE(sheet.size(), 381);
+    QVERIFY(sheet.endsWith("}") && !sheet.contains('\r'));
+    QCOMPARE(sheet.count("background-color: #c9c7c7;"), 1);
+    QCOMPARE(sheet.count("background-color: #f2f0f0;"), 7);
+    QStringList selectors;
+    for (const QString& rule : QString::fromLatin1(sheet).split("\n\n"))
+        selectors.append(rule.section(' ', 0, 0));
+    QCOMPARE(selectors,
+             (QStringList{"QMainWindow", "QDialog", "QPlainTextEdit", "QTextEdit", "QFileDialog",
+                          "QMessageBox", "QTableWidget", "QTextBrowser"}));
+}
+
+void tst_startup::light_without_the_setting()
+{
+    QVERIFY(!desktop_is_dark());
+    QCOMPARE(applied_sheet(sheet_path), QString::fromLatin1(bytes_of(sheet_path)));
+}
+
+void tst_startup::theme_setting_data()
+{
+    QTest::addColumn<QByteArray>("line");
+    QTest::addColumn<bool>("dark");
+    QTest::newRow("0") << QByteArray("AppsUseLightTheme=0") << true;
+    QTest::newRow("1") << QByteArray("AppsUseLightTheme=1") << false;
+    QTest::newRow("2") << QByteArray("AppsUseLightTheme=2") << false;
+    QTest::newRow("another value") << QByteArray("SystemUsesLightTheme=0") << false;
+}
+
+void tst_startup::theme_setting()
+{
+#ifdef Q_OS_WIN
+    QFAIL("needs a registry of its own");
+#else
+    QFETCH(QByteArray, line);
+    QFETCH(bool, dark);
+    write_setting(line);
+    QCOMPARE(desktop_is_dark(), dark);
+    const QString sheet = applied_sheet(sheet_path);
+    QCOMPARE(sheet.count("background-color: black;"), dark ? 8 : 0);
+    QCOMPARE(sheet.contains("#c9c7c7"), !dark);
+    QCOMPARE(sheet.contains("#f2f0f0"), !dark);
+#endif
+}
+
+void tst_startup::missing_sheet()
+{
+    qApp->setStyleSheet("QDialog { color: red; }");
+    QCOMPARE(applied_sheet(":/no/such/sheet.qss"), QString());
+}
+
+QTEST_MAIN(tst_startup)
+#include "tst_startup.moc"

@@ -1,0 +1,21 @@
+#include "tests/support/modal_boxes.h"
+
+#include <QApplication>
+#include <QIcon>
+#include <QTest>
+
+modal_boxes::modal_boxes()
+{
+    QObject::connect(&watch, &QTimer::timeout, &watch, [this] { answer(); });
+    watch.start(5);
+}
+
+void modal_boxes::answer()
+{
+    auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+    if (!box || !box->isVisible())
+        return;
+    boxes.append({box->windowTitle(), box->text(), box->detailedText(), box->standardButtons(),
+                  box->icon(), !box->windowIcon().isNull(), box->isModal()});
+    QTest::keyClick(box, Qt::Key_Return);
+}

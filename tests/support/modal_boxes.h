@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QList>
+#include <QMessageBox>
+#include <QTimer>
+
+/// What a message box showed.
+struct shown_box
+{
+    QString title;
+    QString text;
+    QString detailed_text;
+    QMessageBox::StandardButtons buttons;
+    QMessageBox::Icon icon = QMessageBox::NoIcon;
+    bool has_window_icon = false;
+    bool was_modal = false;
+};
+
+/// Notes every modal message box that comes up while it lives, and closes it as a user does: with
+/// the Enter key.
+class modal_boxes
+{
+public:
+    modal_boxes();
+
+    const QList<shown_box>& shown() const { return boxes; }
+
+private:
+    void answer();
+
+    QTimer watch;
+    QList<shown_box> boxes;
+};

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <QDir>
+#include <QTest>
+
+/// Makes a test row, with the column "path", of every sample file in `folder`. Beside each sample
+/// lies a file of the same name with ".expected" behind it.
+inline void add_sample_rows(const QString& folder)
+{
+    QTest::addColumn<QString>("path");
+    for (const QFileInfo& file : QDir(folder).entryInfoList(QDir::Files, QDir::Name)) {
+        if (file.suffix() != u"expected")
+            QTest::newRow(qPrintable(file.fileName())) << file.filePath();
+    }
+}
+
+/// What reading the sample must give: the dump of the document, then the log, each line with "log "
+/// in front.
+inline QString expected_of(const QString& path)
+{
+    QFile file(path + ".expected");
+    if (!file.open(QIODevice::ReadOnly))
+        return "no expected result";
+    return QString::fromUtf8(file.readAll());
+}

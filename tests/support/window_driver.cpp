@@ -1,0 +1,55 @@
+#include "tests/support/window_driver.h"
+
+#include <QFile>
+#include <QListWidget>
+#include <QPushButton>
+#include <QTest>
+
+#include <qwt_plot.h>
+
+window_driver::window_driver()
+    : list(window.findChild<QListWidget*>("listWidget"))
+    , names(window.findChild<QListWidget*>("listWidget_2"))
+    , button(window.findChild<QPushButton*>("pushButton"))
+    , remove(window.findChild<QPushButton*>("pushButton_3"))
+    , lower(window.findChild<QwtPlot*>("qwtPlot"))
+    , upper(window.findChild<QwtPlot*>("qwtPlot_2"))
+{
+    window.show();
+}
+
+QString window_driver::add(const QString& name, const QByteArray& text)
+{
+    const QString path = folder.filePath(name);
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(text) != text.size())
+        qFatal("cannot write a temporary file");
+    list->addItem(path);
+    return path;
+}
+
+void window_driver::select(int row) const
+{
+    const QPoint middle = list->visualItemRect(list->item(row)).center();
+    QTest::mouseClick(list->viewport(), Qt::LeftButton, Qt::NoModifier, middle);
+}
+
+void window_driver::press(QPushButton* which) const
+{
+    QTest::mouseClick(which, Qt::LeftButton);
+}
+
+QStringList window_driver::files() const
+{
+    QStringList rows;
+    for (int row = 0; row < list->count(); ++row)
+        rows.append(list->item(row)->text());
+    return rows;
+}
+
+QByteArray node_file(double peak)
+{
+    return "Ganglinien Knoten K1\nZeit hN hV heff Qo Qi Qg Qzu Qb Qges\n"
+           "0 0 0 0 0 0 0 0 1 1\n72 5 2 3 0 0 0 0 2 "
+           + QByteArray::number(peak) + "\n";
+}

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "ui/mainwindow.h"
+
+#include <QTemporaryDir>
+
+class QListWidget;
+class QPushButton;
+class QwtPlot;
+
+/// A main window on the screen, its widgets, a folder for its files, and the hands of a user.
+struct window_driver
+{
+    window_driver();
+
+    /// Writes a file into the folder, adds its row to the file list, and answers its path.
+    QString add(const QString& name, const QByteArray& text);
+    /// Clicks on a row of the file list.
+    void select(int row) const;
+    void press(QPushButton* which) const;
+    QStringList files() const;
+
+    QTemporaryDir folder;
+    MainWindow window;
+    QListWidget* list;
+    QListWidget* names;
+    QPushButton* button;
+    QPushButton* remove;
+    QwtPlot* lower;
+    QwtPlot* upper;
+};
+
+/// A node's file: two rows at 0 h and 72 h, with discharges up to `peak`.
+QByteArray node_file(double peak);
