@@ -8,8 +8,8 @@
 
 namespace {
 
-// Deliberate: the pattern is not anchored, so it meets "background-color" as well and a dark desktop
-// gets black backgrounds.
+// Deliberate: the pattern is not anchored, so it meets "background-color" as well and a dark
+// desktop gets black backgrounds.
 void make_dark(QString& sheet)
 {
     static const QRegularExpression colour(QStringLiteral("color:\\s*[^;]+;"));

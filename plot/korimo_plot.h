@@ -18,7 +18,8 @@ class QwtPlotCurve;
 class QwtPlotGrid;
 struct curve_rule;
 
-/// The plot document: what was read from one result file, and all that draws it into a pair of plots.
+/// The plot document: what was read from one result file, and all that draws it into a pair of
+/// plots.
 ///
 /// A document serves one file (or one characteristic curve): it is created, reads once and draws
 /// itself; destroying it takes everything off the plots. Of the two plots the first is always the
@@ -52,12 +53,13 @@ public slots:
     void scaleDivChangedSlot();
     /// The range of the left axis, minimum first.
     QList<double> get_y_axis_scale(QwtPlot* plot);
-    /// Fixes the left axis to a range (minimum, maximum) without a redraw and sets `y_bottom_status`.
-    /// A list of fewer than two values changes nothing.
+    /// Fixes the left axis to a range (minimum, maximum) without a redraw and sets
+    /// `y_bottom_status`. A list of fewer than two values changes nothing.
     void set_y_axis_scale(QwtPlot* plot, QList<double> min_max);
     /// The range of the x axis named "bottom" or "top"; two zeros for any other name.
     QList<double> get_x_axis_scale(QwtPlot* plot, QString axis_name);
-    /// Fixes the x axis named "bottom" or "top" like `set_y_axis_scale`; any other name does nothing.
+    /// Fixes the x axis named "bottom" or "top" like `set_y_axis_scale`; any other name does
+    /// nothing.
     void set_x_axis_scale(QwtPlot* plot, QList<double> min_max, QString axis_name);
     bool get_x_bottom_status();
     bool get_x_top_status();

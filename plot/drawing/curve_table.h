@@ -2,8 +2,8 @@
 
 #include "plot/reading/short_list.h"
 
-#include <QtTypes>
 #include <Qt>
+#include <QtTypes>
 
 #include <span>
 
@@ -16,12 +16,12 @@ enum class plot_place
 /// One curve of a plot mode.
 struct curve_rule
 {
-    int curve;             ///< index of the curve in the document
-    int x;                 ///< entry of the series store
-    int y;                 ///< entry of the series store
+    int curve; ///< index of the curve in the document
+    int x;     ///< entry of the series store
+    int y;     ///< entry of the series store
     plot_place place;
     Qt::GlobalColor colour;
-    const char16_t* title; ///< null: the title line of the file
+    const char16_t* title;  ///< null: the title line of the file
     bool tail_of_y = false; ///< takes only the last values of y, as many as x has
 };
 

@@ -46,7 +46,8 @@ void read_bek(text_lines& lines, QStringView item, series_store& series)
         const QStringView identifier = field(line, bek_identifier);
         const bool continues = identifier == u"     ";
         const bool is_wanted = identifier.contains(item);
-        // A line that repeats the identifier inside its block is not read, but keeps the block open.
+        // A line that repeats the identifier inside its block is not read, but keeps the block
+        // open.
         if (in_block ? continues : is_wanted)
             append_row(line, series);
         in_block = is_wanted || (in_block && continues);

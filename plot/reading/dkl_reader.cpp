@@ -12,8 +12,8 @@ namespace {
 // parts has no header.
 bool is_header_of(const QString& line, const QStringList& name_parts)
 {
-    return name_parts.size() >= 3 && !line.contains(u"Wo") && line.contains(name_parts[0])
-           && line.contains(name_parts[2]);
+    return name_parts.size() >= 3 && !line.contains(u"Wo") && line.contains(name_parts[0]) &&
+           line.contains(name_parts[2]);
 }
 
 // Appends the point of a data line. A point with a 0 is taken for text that is no number, and

@@ -13,10 +13,10 @@ using column_routing = short_list<int, 10>;
 /// One kind of model element, as a WEL file shows it.
 struct element_kind
 {
-    const char* name;                   ///< as the log writes it
-    short_list<QStringView, 2> markers; ///< any one of them in the file name tells the kind
-    int plot_mode;                      ///< decides how the file is drawn
-    column_routing columns;             ///< of a row of any length…
+    const char* name;                          ///< as the log writes it
+    short_list<QStringView, 2> markers;        ///< any one of them in the file name tells the kind
+    int plot_mode;                             ///< decides how the file is drawn
+    column_routing columns;                    ///< of a row of any length…
     column_routing columns_of_seven = columns; ///< …but one of exactly seven tokens
     bool logs_excess_token = false; ///< whether the log names the first token of a row too long
 

@@ -16,9 +16,8 @@ constexpr QStringView filler_words[] = {u"GOK", u"=", u"GW", u"müNHN"};
 bool names_a_basin(const QString& line)
 {
     const QStringView letter = field(line, bek_first_letter);
-    return letter.compare(u"B", Qt::CaseInsensitive) == 0
-           && field(line, bek_heading_word) != u"Bez"
-           && !field(line, bek_values).trimmed().isEmpty();
+    return letter.compare(u"B", Qt::CaseInsensitive) == 0 &&
+           field(line, bek_heading_word) != u"Bez" && !field(line, bek_values).trimmed().isEmpty();
 }
 
 bool names_a_curve(const QString& line)

@@ -33,9 +33,9 @@ private:
     QByteArrayView without_returns(QByteArrayView line);
 
     QIODevice& device;
-    QByteArray buffer;               // text that was read and not yet given out
-    qsizetype start = 0;             // where the next line starts in it
-    QByteArray rewritten;            // a line that had to be changed
+    QByteArray buffer;                        // text that was read and not yet given out
+    qsizetype start = 0;                      // where the next line starts in it
+    QByteArray rewritten;                     // a line that had to be changed
     std::optional<QStringDecoder> transcoder; // set for UTF-16 and UTF-32 only
     bool at_end = false;
     bool file_is_empty = false;

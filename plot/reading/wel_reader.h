@@ -17,8 +17,8 @@ struct wel_target
 
 /// Reads the hydrographs of one model element.
 ///
-/// `file_name`, without its folder, tells the element kind. A line with the word "Ganglinien" is the
-/// title; any other line of which every token is a number is a data row; the rest is dropped. Reading
-/// stops at the first data row that has more tokens than its kind has columns, after the tokens that
-/// fit. What is done with each line is told to the debug log.
+/// `file_name`, without its folder, tells the element kind. A line with the word "Ganglinien" is
+/// the title; any other line of which every token is a number is a data row; the rest is dropped.
+/// Reading stops at the first data row that has more tokens than its kind has columns, after the
+/// tokens that fit. What is done with each line is told to the debug log.
 void read_wel(text_lines& lines, QStringView file_name, const wel_target& target);

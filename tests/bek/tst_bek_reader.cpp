@@ -11,9 +11,9 @@ namespace {
 QByteArray line(const char* identifier, const char* level, const char* outlet, const char* spillway,
                 const char* volume)
 {
-    return QByteArray("   ") + QByteArray(identifier).leftJustified(34)
-           + QByteArray(level).rightJustified(7) + QByteArray(outlet).rightJustified(6)
-           + QByteArray(spillway).rightJustified(6) + QByteArray(volume).rightJustified(7) + "\n";
+    return QByteArray("   ") + QByteArray(identifier).leftJustified(34) +
+           QByteArray(level).rightJustified(7) + QByteArray(outlet).rightJustified(6) +
+           QByteArray(spillway).rightJustified(6) + QByteArray(volume).rightJustified(7) + "\n";
 }
 
 series_store read(QByteArray bytes, const QString& item)
@@ -45,15 +45,13 @@ private slots:
 
 void tst_bek_reader::blocks()
 {
-    const series_store series = read(line("B1", "1", "10", "", "0") + line("", "2", "20", "", "0")
-                                         + line("B1", "3", "30", "", "0")
-                                         + line("", "4", "40", "", "0")
-                                         + line("B2", "5", "50", "", "0")
-                                         + line("", "6", "60", "", "0")
-                                         + line("B1", "7", "70", "", "0")
-                                         + line("", "8", "80", "", "0") + "\n"
-                                         + line("", "9", "90", "", "0"),
-                                     "B1   ");
+    const series_store series =
+        read(line("B1", "1", "10", "", "0") + line("", "2", "20", "", "0") +
+                 line("B1", "3", "30", "", "0") + line("", "4", "40", "", "0") +
+                 line("B2", "5", "50", "", "0") + line("", "6", "60", "", "0") +
+                 line("B1", "7", "70", "", "0") + line("", "8", "80", "", "0") + "\n" +
+                 line("", "9", "90", "", "0"),
+             "B1   ");
     QCOMPARE(series[1], (values{1, 2, 4, 7, 8}));
     QCOMPARE(series[11], (values{10, 20, 40, 70, 80}));
 }

@@ -49,25 +49,27 @@ void tst_dkl_reader::curve_data()
     QTest::addColumn<QByteArray>("text");
     QTest::addColumn<values>("levels");
     QTest::addColumn<values>("discharges");
-    QTest::newRow("as many as announced")
-        << header + "Wo Qd\n2\n101.5 2\n102 3\n" << values{101.5, 102} << values{2, 3};
-    QTest::newRow("more than announced")
-        << header + "3\n1 1\n2 2\n3 3\n4 4\n5 5\n" << values{1, 2, 3} << values{1, 2, 3};
+    QTest::newRow("as many as announced") << header + "Wo Qd\n2\n101.5 2\n102 3\n"
+                                          << values{101.5, 102} << values{2, 3};
+    QTest::newRow("more than announced") << header + "3\n1 1\n2 2\n3 3\n4 4\n5 5\n"
+                                         << values{1, 2, 3} << values{1, 2, 3};
     QTest::newRow("fewer than announced") << header + "3\n1 1\n" << values{1} << values{1};
     QTest::newRow("true zero") << header + "1\n101.5 0.000000E+00\n" << values{101.5} << values{0};
-    QTest::newRow("exponent 0 with level 0")
-        << header + "1\n0 1.5E+00\n" << values{0} << values{0};
-    QTest::newRow("rejected but counted") << header + "2\n0 2.5\n1 1\n2 2\n" << values{1} << values{1};
+    QTest::newRow("exponent 0 with level 0") << header + "1\n0 1.5E+00\n" << values{0} << values{0};
+    QTest::newRow("rejected but counted") << header + "2\n0 2.5\n1 1\n2 2\n"
+                                          << values{1} << values{1};
     QTest::newRow("one field") << header + "2\n7.5\n1 1\n" << values{1} << values{1};
     QTest::newRow("count before the header") << "5\n" + header + "1 1\n" << values{} << values{};
     QTest::newRow("data with Wo>") << header + "2\n1 1 Wo>\n2 2\n" << values{1, 2} << values{1, 2};
     QTest::newRow("blanks around the count") << header + "  1  \n1 1\n" << values{1} << values{1};
     QTest::newRow("0 is no count") << header + "2\n0\n1 1\n" << values{1} << values{1};
-    QTest::newRow("second count") << header + "1\n1 1\n3\n2 2\n3 3\n4 4\n" << values{1, 2, 3}
-                                  << values{1, 2, 3};
+    QTest::newRow("second count") << header + "1\n1 1\n3\n2 2\n3 3\n4 4\n"
+                                  << values{1, 2, 3} << values{1, 2, 3};
     QTest::newRow("second header adds what is missing")
-        << header + "1\n1 1\nend\n" + header + "2\n2 2\n3 3\n" << values{1, 2} << values{1, 2};
-    QTest::newRow("another curve") << QByteArray("13 Zulauf km Sp\n1\n1 1\n") << values{} << values{};
+        << header + "1\n1 1\nend\n" + header + "2\n2 2\n3 3\n"
+        << values{1, 2} << values{1, 2};
+    QTest::newRow("another curve")
+        << QByteArray("13 Zulauf km Sp\n1\n1 1\n") << values{} << values{};
 }
 
 void tst_dkl_reader::curve()

@@ -70,7 +70,7 @@ void tst_axis_scales::fixed_ranges()
         document.set_x_axis_scale(plot, {2.5, 7, 99}, axis);
     plot->replot();
     QCOMPARE(get(), (range{2.5, 7}));
-    const QwtAxisId id = is_y                ? QwtAxis::YLeft
+    const QwtAxisId id = is_y               ? QwtAxis::YLeft
                          : axis == "bottom" ? QwtAxis::XBottom
                                             : QwtAxis::XTop;
     QVERIFY(!plot->axisAutoScale(id));

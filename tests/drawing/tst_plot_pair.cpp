@@ -134,7 +134,8 @@ void tst_plot_pair::every_mode_is_finished()
         QVERIFY(document.magnifier_b->isAxisEnabled(axis));
     QCOMPARE(document.magnifier_a->wheelModifiers(), Qt::NoModifier);
     QCOMPARE(document.magnifier_b->wheelModifiers(), Qt::ShiftModifier);
-    for (const QwtPlotMagnifier* magnifier : {document.magnifier_a.get(), document.magnifier_b.get()}) {
+    for (const QwtPlotMagnifier* magnifier :
+         {document.magnifier_a.get(), document.magnifier_b.get()}) {
         Qt::MouseButton button = Qt::NoButton;
         Qt::KeyboardModifiers modifiers;
         magnifier->getMouseButton(button, modifiers);

@@ -50,23 +50,15 @@ void tst_store::invocable_methods_in_order()
     QStringList names;
     for (int i = meta.methodOffset(); i < meta.methodCount(); ++i)
         names.append(meta.method(i).methodSignature());
-    QCOMPARE(names, (QStringList{"readFile(QString)",
-                                 "read_DKL(QString,QString)",
-                                 "read_BEK(QString,QString)",
-                                 "plot_the_curves(QwtPlot*,QwtPlot*)",
-                                 "get_wel_title()",
-                                 "get_kennlinien_list()",
-                                 "scaleDivChangedSlot()",
-                                 "get_y_axis_scale(QwtPlot*)",
-                                 "set_y_axis_scale(QwtPlot*,QList<double>)",
-                                 "get_x_axis_scale(QwtPlot*,QString)",
-                                 "set_x_axis_scale(QwtPlot*,QList<double>,QString)",
-                                 "get_x_bottom_status()",
-                                 "get_x_top_status()",
-                                 "get_y_bottom_status()",
-                                 "get_y_top_status()",
-                                 "get_curve_names()",
-                                 "set_curve_names(QStringList)"}));
+    QCOMPARE(names,
+             (QStringList{
+                 "readFile(QString)", "read_DKL(QString,QString)", "read_BEK(QString,QString)",
+                 "plot_the_curves(QwtPlot*,QwtPlot*)", "get_wel_title()", "get_kennlinien_list()",
+                 "scaleDivChangedSlot()", "get_y_axis_scale(QwtPlot*)",
+                 "set_y_axis_scale(QwtPlot*,QList<double>)", "get_x_axis_scale(QwtPlot*,QString)",
+                 "set_x_axis_scale(QwtPlot*,QList<double>,QString)", "get_x_bottom_status()",
+                 "get_x_top_status()", "get_y_bottom_status()", "get_y_top_status()",
+                 "get_curve_names()", "set_curve_names(QStringList)"}));
 }
 
 void tst_store::getters_return_copies()

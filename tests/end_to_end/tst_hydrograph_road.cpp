@@ -54,13 +54,19 @@ private:
 void drag_to(const QWidget& source, const QPoint& target)
 {
     const QPoint start = source.mapToGlobal(source.rect().center());
-    QStringList words{"mousemove", QString::number(start.x()), QString::number(start.y()), "sleep",
-                      "0.3",       "mousedown",                "1",                        "sleep",
+    QStringList words{"mousemove",
+                      QString::number(start.x()),
+                      QString::number(start.y()),
+                      "sleep",
+                      "0.3",
+                      "mousedown",
+                      "1",
+                      "sleep",
                       "0.3"};
     for (int step = 1; step <= 8; ++step) {
         const QPoint point = start + (target - start) * step / 8;
-        words += {"mousemove", QString::number(point.x()), QString::number(point.y()), "sleep",
-                  "0.1"};
+        words +=
+            {"mousemove", QString::number(point.x()), QString::number(point.y()), "sleep", "0.1"};
     }
     words += {"sleep", "0.5", "mouseup", "1"};
     start_xdotool(words);
@@ -116,7 +122,8 @@ void tst_hydrograph_road::init()
 // A step that failed leaves what was on the screen behind.
 void tst_hydrograph_road::cleanup()
 {
-    const bool wanted = QTest::currentTestFailed() || qEnvironmentVariableIsSet("KORIMO_SCREENSHOTS");
+    const bool wanted =
+        QTest::currentTestFailed() || qEnvironmentVariableIsSet("KORIMO_SCREENSHOTS");
     if (wanted)
         screenshot().save(QString("screenshot_%1.png").arg(QTest::currentTestFunction()));
     program.reset();
@@ -170,7 +177,10 @@ void tst_hydrograph_road::file_dialog_by_clicking()
     const QString dialog = xdotool({"search", "--onlyvisible", "--name", "Auswahl der Datei"});
     const QStringList geometry = xdotool({"getwindowgeometry", "--shell", dialog}).split('\n');
     const auto number = [&](const QString& name) {
-        return geometry.filter(QRegularExpression("^" + name + "=")).value(0).section('=', 1).toInt();
+        return geometry.filter(QRegularExpression("^" + name + "="))
+            .value(0)
+            .section('=', 1)
+            .toInt();
     };
     // The first row of the list of files: beside the side bar, below the tool buttons.
     const QPoint first(number("X") + 200, number("Y") + 52);

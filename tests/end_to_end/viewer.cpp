@@ -96,7 +96,8 @@ void viewer::wheel(const QPoint& point, int notches, const QString& modifier) co
 
 void viewer::drag_right(const QPoint& from, const QPoint& to) const
 {
-    xdotool(QStringList{"mousemove"} + place_words(on_screen(from)) + QStringList{"mousedown", "3"});
+    xdotool(QStringList{"mousemove"} + place_words(on_screen(from)) +
+            QStringList{"mousedown", "3"});
     const QPoint middle = (from + to) / 2;
     for (const QPoint& point : {middle, to}) {
         xdotool(QStringList{"mousemove"} + place_words(on_screen(point)));
@@ -143,7 +144,7 @@ int viewer::sees(const QRect& area, const QColor& colour) const
 
 int viewer::exit_code()
 {
-    const bool ended = program.state() == QProcess::NotRunning
-                       || program.waitForFinished(10 * seconds);
+    const bool ended =
+        program.state() == QProcess::NotRunning || program.waitForFinished(10 * seconds);
     return ended && program.exitStatus() == QProcess::NormalExit ? program.exitCode() : -1;
 }

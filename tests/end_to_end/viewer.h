@@ -5,8 +5,8 @@
 #include <QRect>
 #include <QTemporaryDir>
 
-/// The real program, run as a user runs it, with hands on mouse and keyboard and eyes on the screen.
-/// Places are given in pixels of the window's central widget, as the form gives them.
+/// The real program, run as a user runs it, with hands on mouse and keyboard and eyes on the
+/// screen. Places are given in pixels of the window's central widget, as the form gives them.
 class viewer
 {
 public:

@@ -27,7 +27,8 @@ bool same(std::optional<double> a, std::optional<double> b)
 
 QString random_token(QRandomGenerator& random)
 {
-    static const QString letters = QStringLiteral("0123456789012345678901234567890.eE+-, infNA\t\u00a0x");
+    static const QString letters =
+        QStringLiteral("0123456789012345678901234567890.eE+-, infNA\t\u00a0x");
     QString token;
     const int length = random.bounded(1, 24);
     for (int i = 0; i < length; ++i)

@@ -21,12 +21,42 @@ const auto& any_of(const list& values, QRandomGenerator& random)
 
 QByteArray number(QRandomGenerator& random)
 {
-    static const QByteArrayList odd = {
-        "0",     "-0",   "+1",   "1.",      ".5",    "1e5",   "1E5",   "1.0E+00", "1e-400", "1e400",
-        "inf",   "-INF", "nan",  "1,5",     "1e",    "0x10",  "12.5.", "--1",     "1_0",    "\t7",
-        "7\t8",  "\xC2\xA0" "3", "4\xC2\xA0", "\xEF\xBC\x91", "5\xFF", "\xEF\xBB\xBF" "6", "9\xC3",
-        QByteArray("1\0", 2),   QByteArray("\0", 1), "123456789012345678901234567890",
-        "0.1000000000000000055511151231257827", "4.9e-324", "2.2250738585072011e-308", "1\r2"};
+    static const QByteArrayList odd = {"0",
+                                       "-0",
+                                       "+1",
+                                       "1.",
+                                       ".5",
+                                       "1e5",
+                                       "1E5",
+                                       "1.0E+00",
+                                       "1e-400",
+                                       "1e400",
+                                       "inf",
+                                       "-INF",
+                                       "nan",
+                                       "1,5",
+                                       "1e",
+                                       "0x10",
+                                       "12.5.",
+                                       "--1",
+                                       "1_0",
+                                       "\t7",
+                                       "7\t8",
+                                       "\xC2\xA0"
+                                       "3",
+                                       "4\xC2\xA0",
+                                       "\xEF\xBC\x91",
+                                       "5\xFF",
+                                       "\xEF\xBB\xBF"
+                                       "6",
+                                       "9\xC3",
+                                       QByteArray("1\0", 2),
+                                       QByteArray("\0", 1),
+                                       "123456789012345678901234567890",
+                                       "0.1000000000000000055511151231257827",
+                                       "4.9e-324",
+                                       "2.2250738585072011e-308",
+                                       "1\r2"};
     if (random.bounded(12) == 0)
         return any_of(odd, random);
     const double value = random.bounded(2000.0) - 200.0;
@@ -53,18 +83,26 @@ QByteArray number_row(QRandomGenerator& random)
 
 QByteArray wel_line(QRandomGenerator& random)
 {
-    static const QByteArrayList texts = {
-        "Ganglinien Pegel P",  "  Ganglinien \xC3\x9C", "\xEF\xBB\xBF" "Ganglinien",
-        "ganglinien klein",    "Ganglinien\xFF",        "Gang\rlinien Titel",
-        "Zeit [h]  Q [m3/s]",  "   ",                   "",
-        "0.0 Ganglinien 1.0",  "\t",                    "1.0\t2.0"};
+    static const QByteArrayList texts = {"Ganglinien Pegel P",
+                                         "  Ganglinien \xC3\x9C",
+                                         "\xEF\xBB\xBF"
+                                         "Ganglinien",
+                                         "ganglinien klein",
+                                         "Ganglinien\xFF",
+                                         "Gang\rlinien Titel",
+                                         "Zeit [h]  Q [m3/s]",
+                                         "   ",
+                                         "",
+                                         "0.0 Ganglinien 1.0",
+                                         "\t",
+                                         "1.0\t2.0"};
     return random.bounded(6) == 0 ? any_of(texts, random) : number_row(random);
 }
 
 QByteArray bek_line(QRandomGenerator& random)
 {
-    static const QByteArrayList starts = {"   B1   ", "   b2   ", "   BBez ", "   B\xC3\xBC  ", "   X",
-                                          "        ", "B",        "   BB1B2"};
+    static const QByteArrayList starts = {"   B1   ", "   b2   ", "   BBez ", "   B\xC3\xBC  ",
+                                          "   X",     "        ", "B",        "   BB1B2"};
     QByteArray line = any_of(starts, random);
     while (line.size() < 70 && random.bounded(40) != 0)
         line += random.bounded(3) == 0 ? QByteArray::number(random.bounded(100)) : " ";
@@ -73,9 +111,9 @@ QByteArray bek_line(QRandomGenerator& random)
 
 QByteArray dkl_line(QRandomGenerator& random)
 {
-    static const QByteArrayList words = {"km",  "1.2", "GOK", "=",    "GW",  "m\xC3\xBCNHN", "Wo",
-                                         "Wo>", "Qd",  "Sp",  "GOK=", "\t",  "m\xFCNHN",     "km=3",
-                                         "12",  "Auslass"};
+    static const QByteArrayList words = {
+        "km", "1.2", "GOK",  "=",  "GW",       "m\xC3\xBCNHN", "Wo", "Wo>",
+        "Qd", "Sp",  "GOK=", "\t", "m\xFCNHN", "km=3",         "12", "Auslass"};
     QByteArray line;
     for (int n = random.bounded(0, 9); n > 0; --n)
         line += any_of(words, random) + QByteArray(random.bounded(1, 3), ' ');

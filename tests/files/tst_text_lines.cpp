@@ -67,17 +67,32 @@ void tst_text_lines::lines_data()
     QTest::newRow("CR only") << "a\rb\r"_ba << list{"ab"};
     QTest::newRow("several CR") << "a\r\r\n\r\n\rb"_ba << list{"a", "", "b"};
     QTest::newRow("UTF-8") << "m\xC3\xBCNHN\n"_ba << list{u"müNHN"_s};
-    QTest::newRow("UTF-8 mark") << "\xEF\xBB\xBF" "1\n\xEF\xBB\xBF" "2"_ba
+    QTest::newRow("UTF-8 mark") << "\xEF\xBB\xBF"
+                                   "1\n\xEF\xBB\xBF"
+                                   "2"_ba
                                 << list{"1", u"\uFEFF2"_s};
     QTest::newRow("mark alone") << "\xEF\xBB\xBF"_ba << list{""};
     QTest::newRow("CR alone") << "\r\r"_ba << list{""};
     QTest::newRow("half a character alone") << "\xE2\x82"_ba << list{""};
     QTest::newRow("CR behind the last newline") << "a\n\r"_ba << list{"a"};
     QTest::newRow("half a character behind it") << "a\n\xE2\x82"_ba << list{"a"};
-    QTest::newRow("UTF-16 LE") << QByteArray("\xFF\xFE" "1\0\r\0\n\0" "2\0", 10) << list{"1", "2"};
-    QTest::newRow("UTF-16 BE") << QByteArray("\xFE\xFF\0" "1\0\n\0" "2", 8) << list{"1", "2"};
-    QTest::newRow("UTF-32 LE") << QByteArray("\xFF\xFE\0\0" "1\0\0\0\n\0\0\0", 12) << list{"1"};
-    QTest::newRow("not UTF-8") << "a\xFF" "b\xC3\n\xE4"_ba << list{u"a\uFFFDb\uFFFD"_s};
+    QTest::newRow("UTF-16 LE") << QByteArray("\xFF\xFE"
+                                             "1\0\r\0\n\0"
+                                             "2\0",
+                                             10)
+                               << list{"1", "2"};
+    QTest::newRow("UTF-16 BE") << QByteArray("\xFE\xFF\0"
+                                             "1\0\n\0"
+                                             "2",
+                                             8)
+                               << list{"1", "2"};
+    QTest::newRow("UTF-32 LE") << QByteArray("\xFF\xFE\0\0"
+                                             "1\0\0\0\n\0\0\0",
+                                             12)
+                               << list{"1"};
+    QTest::newRow("not UTF-8") << "a\xFF"
+                                  "b\xC3\n\xE4"_ba
+                               << list{u"a\uFFFDb\uFFFD"_s};
     QTest::newRow("cut in the last character") << "1 2 \xE2\x82"_ba << list{"1 2 "};
     QTest::newRow("CR inside a character") << "\xC3\r\xA9\n"_ba << list{u"\uFFFD\uFFFD"_s};
     QTest::newRow("CR behind half a character") << "a\xC3\r\n"_ba << list{u"a\uFFFD"_s};
@@ -102,10 +117,25 @@ void tst_text_lines::lines_longer_than_a_block()
 
 void tst_text_lines::random_bytes_as_a_text_stream()
 {
-    const QByteArrayList pieces = {"\n", "\n",   "\r",   "\r\n", " ",    "1",    "2.5",  "\xC3",
-                                   "\xA4", "\xC3\xA4", "\xE2\x82\xAC", "\xF0\x9F\x92\xA7", "\xFF",
-                                   "\xFE", "\xEF\xBB\xBF", QByteArray(1, '\0'), "\xED\xA0\x80",
-                                   "\xC0\x80", "\xF4\x90\x80\x80"};
+    const QByteArrayList pieces = {"\n",
+                                   "\n",
+                                   "\r",
+                                   "\r\n",
+                                   " ",
+                                   "1",
+                                   "2.5",
+                                   "\xC3",
+                                   "\xA4",
+                                   "\xC3\xA4",
+                                   "\xE2\x82\xAC",
+                                   "\xF0\x9F\x92\xA7",
+                                   "\xFF",
+                                   "\xFE",
+                                   "\xEF\xBB\xBF",
+                                   QByteArray(1, '\0'),
+                                   "\xED\xA0\x80",
+                                   "\xC0\x80",
+                                   "\xF4\x90\x80\x80"};
     QRandomGenerator random(20263);
     for (int i = 0; i < 4000; ++i) {
         QByteArray bytes;

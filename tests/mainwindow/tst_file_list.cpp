@@ -1,11 +1,11 @@
 #include "tests/support/modal_boxes.h"
 #include "tests/support/window_driver.h"
 
+#include <QAbstractItemView>
+#include <QComboBox>
 #include <QDialogButtonBox>
 #include <QDragEnterEvent>
 #include <QDropEvent>
-#include <QAbstractItemView>
-#include <QComboBox>
 #include <QFileDialog>
 #include <QListView>
 #include <QListWidget>
@@ -108,8 +108,9 @@ void tst_file_list::drops_data()
     QTest::addColumn<QStringList>("urls");
     QTest::addColumn<QStringList>("rows");
     using list = QStringList;
-    QTest::newRow("the three kinds") << list{"file:///a/x.wel", "file:///a/y.BEK", "file:///a/z.Dkl"}
-                                     << list{"/a/x.wel", "/a/y.BEK", "/a/z.Dkl"};
+    QTest::newRow("the three kinds")
+        << list{"file:///a/x.wel", "file:///a/y.BEK", "file:///a/z.Dkl"}
+        << list{"/a/x.wel", "/a/y.BEK", "/a/z.Dkl"};
     QTest::newRow("other kinds") << list{"file:///a/x.txt", "file:///a/x.wel.bak", "file:///a/"}
                                  << list{};
     QTest::newRow("no dot") << list{"file:///a/xwel"} << list{"/a/xwel"};

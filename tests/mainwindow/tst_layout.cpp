@@ -157,11 +157,12 @@ void tst_layout::action_order()
     QStringList names;
     for (const QAction* action : window.findChildren<QAction*>(Qt::FindDirectChildrenOnly))
         names.append(action->objectName());
-    QCOMPARE(names, (QStringList{"action_oeffnen", "action_speicher", "action_schliessen",
-                                 "action_y_achse_unten", "actionx_Achse_unten",
-                                 "actiony_Achse_oben", "actionx_Achse_oben", "action2_X_Achse_unten",
-                                 "actionZeitreihe_change_names", "actionQt_Licensing_Information",
-                                 "actionOrvan_Information", "actionLGPLv3", "actionHandbuch"}));
+    QCOMPARE(names,
+             (QStringList{"action_oeffnen", "action_speicher", "action_schliessen",
+                          "action_y_achse_unten", "actionx_Achse_unten", "actiony_Achse_oben",
+                          "actionx_Achse_oben", "action2_X_Achse_unten",
+                          "actionZeitreihe_change_names", "actionQt_Licensing_Information",
+                          "actionOrvan_Information", "actionLGPLv3", "actionHandbuch"}));
 }
 
 void tst_layout::menus_and_tool_bar()
@@ -180,18 +181,18 @@ void tst_layout::menus_and_tool_bar()
     QCOMPARE(menus, (QStringList{"menuDatei_ffnen", "menuInfo", "menuDokumentation"}));
     QCOMPARE(titles, (QStringList{"Datei", "Info", "Dokumentation"}));
     QCOMPARE(entries,
-             (QList<QStringList>{{"action_oeffnen", "action_speicher", "action_schliessen"},
-                                 {"actionOrvan_Information", "actionQt_Licensing_Information",
-                                  "actionLGPLv3"},
-                                 {"actionHandbuch"}}));
+             (QList<QStringList>{
+                 {"action_oeffnen", "action_speicher", "action_schliessen"},
+                 {"actionOrvan_Information", "actionQt_Licensing_Information", "actionLGPLv3"},
+                 {"actionHandbuch"}}));
 
     auto* const tools = window.findChild<QToolBar*>("toolBar");
     QCOMPARE(tools->windowTitle(), "toolBar");
     QCOMPARE(window.toolBarArea(tools), Qt::TopToolBarArea);
-    QCOMPARE(names_of(tools->actions()),
-             (QStringList{"action_y_achse_unten", "actionx_Achse_unten", "action2_X_Achse_unten",
-                          "actiony_Achse_oben", "actionx_Achse_oben",
-                          "actionZeitreihe_change_names"}));
+    QCOMPARE(
+        names_of(tools->actions()),
+        (QStringList{"action_y_achse_unten", "actionx_Achse_unten", "action2_X_Achse_unten",
+                     "actiony_Achse_oben", "actionx_Achse_oben", "actionZeitreihe_change_names"}));
     const auto* const status = window.findChild<QStatusBar*>("statusbar");
     QCOMPARE(status->parent(), &window);
     QCOMPARE(status->currentMessage(), "");
@@ -238,10 +239,10 @@ void tst_layout::five_warnings_and_no_more()
                  qPrintable(line));
         names.append(line.section(' ', -1));
     }
-    QCOMPARE(names, (QStringList{"on_action_oeffenen_triggered()",
-                                 "on_action_Orvan_Information_triggered()",
-                                 "on_action_Qt_Licensing_Information_triggered()",
-                                 "on_action_LGPLv3_triggered()", "on_action_Handbuch_triggered()"}));
+    QCOMPARE(names, (QStringList{
+                        "on_action_oeffenen_triggered()", "on_action_Orvan_Information_triggered()",
+                        "on_action_Qt_Licensing_Information_triggered()",
+                        "on_action_LGPLv3_triggered()", "on_action_Handbuch_triggered()"}));
 }
 
 void tst_layout::plots()
@@ -295,8 +296,8 @@ void tst_layout::dialogs()
     const auto owned = QApplication::topLevelWidgets();
     const auto has = [&](const char* name) {
         return std::ranges::any_of(owned, [&](const QWidget* widget) {
-            return widget->objectName() == name && !widget->parent()
-                   && !widget->windowIcon().isNull() && !widget->isVisible();
+            return widget->objectName() == name && !widget->parent() &&
+                   !widget->windowIcon().isNull() && !widget->isVisible();
         });
     };
     QVERIFY(has("axis_dialog"));

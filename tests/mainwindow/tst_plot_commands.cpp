@@ -30,8 +30,8 @@ const QByteArray basin_table = "   B1                                  101.50  0
 
 bool is_drawn(const window_driver& driver)
 {
-    return driver.window.shown_document() && driver.lower->legend()
-           && !driver.lower->itemList().isEmpty();
+    return driver.window.shown_document() && driver.lower->legend() &&
+           !driver.lower->itemList().isEmpty();
 }
 
 // Fixes axes of the plots shown, the way the axis commands do it.
@@ -99,7 +99,8 @@ void tst_plot_commands::plot_and_clear()
     driver.press(driver.button);
     QCOMPARE(driver.button->text(), "Clear");
     QVERIFY(is_drawn(driver));
-    QCOMPARE(titles_of(driver.lower), (QStringList{"Ganglinien Knoten K1", "Zeit [h] ", "Q [m3/s]"}));
+    QCOMPARE(titles_of(driver.lower),
+             (QStringList{"Ganglinien Knoten K1", "Zeit [h] ", "Q [m3/s]"}));
     QCOMPARE(titles_of(driver.upper), (QStringList{"", "Zeit [h] ", "P [mm]"}));
     QCOMPARE(range(driver.lower, QwtAxis::XBottom), QwtInterval(0, 72));
     QCOMPARE(range(driver.lower, QwtAxis::YLeft), QwtInterval(1, 9));
@@ -140,8 +141,8 @@ void tst_plot_commands::every_kind_is_drawn()
     QFETCH(int, lower_curves);
     QFETCH(int, upper_curves);
     window_driver driver;
-    driver.add(QTest::currentDataTag(), "0" + QByteArray(" 1").repeated(columns - 1) + "\n1"
-                                            + QByteArray(" 2").repeated(columns - 1) + "\n");
+    driver.add(QTest::currentDataTag(), "0" + QByteArray(" 1").repeated(columns - 1) + "\n1" +
+                                            QByteArray(" 2").repeated(columns - 1) + "\n");
     driver.select(0);
     driver.press(driver.button);
     QCOMPARE(driver.lower->itemList(QwtPlotItem::Rtti_PlotCurve).size(), lower_curves);

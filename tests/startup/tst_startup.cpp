@@ -29,7 +29,8 @@ QString applied_sheet(const QString& path)
 // Where there is no registry, the native settings of that name are a file in the working directory.
 void write_setting(const QByteArray& line)
 {
-    QFile file("HKEY_CURRENT_USER\\Software\\Microsoft\\Windows\\CurrentVersion\\Themes\\Personalize");
+    QFile file(
+        "HKEY_CURRENT_USER\\Software\\Microsoft\\Windows\\CurrentVersion\\Themes\\Personalize");
     QVERIFY(file.open(QIODevice::WriteOnly));
     file.write("[General]\n" + line + "\n");
 }

@@ -71,8 +71,7 @@ bool take_wel_line(const QString& line, const QString& name, literal_reading& re
             if (kind == "B")
                 result.log.append(logged(tokens[i]));
             const QByteArray message = (" i outside of bounds " + kind).toUtf8();
-            result.log.append(
-                logged("void korimo_plot::readFile(QString)", message.constData()));
+            result.log.append(logged("void korimo_plot::readFile(QString)", message.constData()));
             return false;
         }
         QString token = tokens[i];
@@ -85,8 +84,8 @@ bool take_wel_line(const QString& line, const QString& name, literal_reading& re
 
 void take_bek_line(const QString& line, literal_reading& result)
 {
-    if (line.mid(3, 1).toUpper() == "B" && line.mid(4, 3) != "Bez"
-        && !line.mid(37, 26).trimmed().isEmpty())
+    if (line.mid(3, 1).toUpper() == "B" && line.mid(4, 3) != "Bez" &&
+        !line.mid(37, 26).trimmed().isEmpty())
         result.kennlinien_list.append(line.mid(3, 5));
 }
 

@@ -50,6 +50,6 @@ QStringList window_driver::files() const
 QByteArray node_file(double peak)
 {
     return "Ganglinien Knoten K1\nZeit hN hV heff Qo Qi Qg Qzu Qb Qges\n"
-           "0 0 0 0 0 0 0 0 1 1\n72 5 2 3 0 0 0 0 2 "
-           + QByteArray::number(peak) + "\n";
+           "0 0 0 0 0 0 0 0 1 1\n72 5 2 3 0 0 0 0 2 " +
+           QByteArray::number(peak) + "\n";
 }
