@@ -35,12 +35,12 @@ endif()
 # Two plots linked against two Qts crash long after the build: ask the library which one it needs.
 set(_qwt_other_qt)
 if(Qwt_LIBRARY AND UNIX)
-  file(STRINGS "${Qwt_LIBRARY}" _qwt_other_qt REGEX "libQt[45](Core|Widgets|Gui)|Qt_5" LIMIT_COUNT 1)
+  file(STRINGS "${Qwt_LIBRARY}" _qwt_other_qt REGEX "libQt5?(Core|Widgets|Gui)[.]" LIMIT_COUNT 1)
 endif()
 
 set(_qwt_reason "Qwt >= 6.2 built for Qt 6 is needed (Debian: libqwt-qt6-dev and qt6-svg-dev)")
 if(_qwt_other_qt)
-  set(_qwt_reason "${Qwt_LIBRARY} is built for another Qt; ${_qwt_reason}")
+  set(_qwt_reason "${Qwt_LIBRARY} is built for another Qt: ${_qwt_reason}")
   set(Qwt_LIBRARY Qwt_LIBRARY-NOTFOUND)
 endif()
 
@@ -50,7 +50,7 @@ find_package_handle_standard_args(Qwt
   VERSION_VAR Qwt_VERSION
   REASON_FAILURE_MESSAGE "${_qwt_reason}")
 
-if(Qwt_FOUND AND NOT TARGET Qwt::Qwt)
+if(Qwt_FOUND AND NOT TARGET Qwt::Qwt AND NOT CMAKE_SCRIPT_MODE_FILE)
   add_library(Qwt::Qwt UNKNOWN IMPORTED GLOBAL)
   set_target_properties(Qwt::Qwt PROPERTIES
     IMPORTED_LOCATION "${Qwt_LIBRARY}"

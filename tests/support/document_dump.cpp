@@ -1,7 +1,5 @@
 #include "tests/support/document_dump.h"
 
-#include "plot/korimo_plot.h"
-
 #include <QLocale>
 
 #include <cmath>
@@ -25,16 +23,17 @@ QString exact(const QList<double>& values)
 
 } // namespace
 
-QString dump(const korimo_plot& document)
+QString dump(int plot_mode, const QString& title, const QStringList& names,
+             const series_store& series)
 {
-    QString text = QStringLiteral("mode %1\n").arg(document.plot_mode);
-    if (!document.wel_title.isEmpty())
-        text += QStringLiteral("title |%1|\n").arg(document.wel_title);
-    for (const QString& name : document.kennlinien_list)
+    QString text = QStringLiteral("mode %1\n").arg(plot_mode);
+    if (!title.isEmpty())
+        text += QStringLiteral("title |%1|\n").arg(title);
+    for (const QString& name : names)
         text += QStringLiteral("name |%1|\n").arg(name);
-    for (std::size_t i = 0; i < document.series.size(); ++i) {
-        if (!document.series[i].isEmpty())
-            text += QStringLiteral("series %1: %2\n").arg(i).arg(exact(document.series[i]));
+    for (std::size_t i = 0; i < series.size(); ++i) {
+        if (!series[i].isEmpty())
+            text += QStringLiteral("series %1: %2\n").arg(i).arg(exact(series[i]));
     }
     return text;
 }
