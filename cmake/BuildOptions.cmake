@@ -4,7 +4,6 @@ option(KORIMO_WARNINGS_ARE_ERRORS "Stop at the first compiler warning" OFF)
 option(KORIMO_SANITIZE "Build with the address and undefined-behaviour sanitizers" OFF)
 
 add_library(korimo_build_options INTERFACE)
-target_compile_features(korimo_build_options INTERFACE cxx_std_20)
 target_compile_definitions(korimo_build_options INTERFACE
   QT_NO_FOREACH
   QT_DEPRECATED_WARNINGS_SINCE=0x060600)

@@ -5,6 +5,8 @@
 #include <qwt_plot_curve.h>
 #include <qwt_plot_grid.h>
 
+#include <algorithm>
+
 korimo_plot::korimo_plot(QwtPlot* plot, QwtPlot* /*plot_2*/)
 {
     curve_title.fill(QStringLiteral("Nothing"));

@@ -14,6 +14,7 @@
 
 #include <array>
 
+class QFile;
 class QwtPlotCurve;
 class QwtPlotGrid;
 struct curve_rule;
@@ -69,7 +70,7 @@ public slots:
     QStringList get_curve_names();
     /// Gives each curve the name of its index, where that is not empty. Names behind the fourth are
     /// ignored.
-    void set_curve_names(QStringList curve_names);
+    void set_curve_names(QStringList names);
 
 public:
     int plot_mode = -1;       ///< what was read: an element kind, 8 for DKL, 9 for BEK, -1 nothing
@@ -95,9 +96,11 @@ public:
 
 private:
     void show_error(const QString& title, const QString& text);
+    bool open_or_report(QFile& file);
 
     void draw_curves();
     QwtPlotCurve* curve_of(const curve_rule& rule) const;
+    void attach(const curve_rule& rule);
     void set_title(const curve_rule& rule, bool listed);
 
     void finish();

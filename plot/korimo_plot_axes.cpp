@@ -1,8 +1,6 @@
 #include "plot/korimo_plot.h"
 
-#include <qwt_interval.h>
 #include <qwt_scale_div.h>
-#include <qwt_scale_widget.h>
 
 namespace {
 
@@ -74,19 +72,4 @@ bool korimo_plot::get_y_bottom_status()
 bool korimo_plot::get_y_top_status()
 {
     return y_top_status;
-}
-
-// Only the time axis is coupled, and only from the lower plot to the upper one.
-void korimo_plot::scaleDivChangedSlot()
-{
-    if (!my_plot || !my_plot_2)
-        return;
-    if (sender() == my_plot->axisWidget(QwtAxis::XBottom)) {
-        last_scaled_plot = 1;
-        const QwtInterval time = my_plot->axisInterval(QwtAxis::XBottom);
-        my_plot_2->setAxisScale(QwtAxis::XBottom, time.minValue(), time.maxValue(), 0);
-    } else {
-        last_scaled_plot = 2;
-    }
-    my_plot_2->replot();
 }

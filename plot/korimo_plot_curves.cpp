@@ -5,6 +5,8 @@
 #include <qwt_plot_curve.h>
 #include <qwt_text.h>
 
+#include <algorithm>
+
 namespace {
 
 constexpr double curve_width = 2.0;
@@ -54,7 +56,7 @@ void korimo_plot::draw_curves()
     for (const curve_rule& rule : mode->curves)
         set_samples(*curve_of(rule), rule, series);
     for (const curve_rule& rule : mode->curves)
-        curve_of(rule)->attach(rule.place == plot_place::lower ? my_plot : my_plot_2);
+        attach(rule);
     for (const curve_rule& rule : mode->curves)
         curve_of(rule)->setPen(rule.colour, curve_width, Qt::SolidLine);
     for (const curve_rule& rule : mode->curves)
@@ -66,6 +68,14 @@ void korimo_plot::draw_curves()
 QwtPlotCurve* korimo_plot::curve_of(const curve_rule& rule) const
 {
     return curves[static_cast<std::size_t>(rule.curve)];
+}
+
+void korimo_plot::attach(const curve_rule& rule)
+{
+    QwtPlotCurve& curve = *curve_of(rule);
+    if (rule.sets_axes)
+        curve.setAxes(QwtAxis::XBottom, QwtAxis::YLeft);
+    curve.attach(rule.place == plot_place::lower ? my_plot : my_plot_2);
 }
 
 void korimo_plot::set_title(const curve_rule& rule, bool listed)

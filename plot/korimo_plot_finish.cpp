@@ -1,5 +1,6 @@
 #include "plot/korimo_plot.h"
 
+#include <qwt_interval.h>
 #include <qwt_plot_grid.h>
 #include <qwt_scale_engine.h>
 #include <qwt_scale_widget.h>
@@ -86,6 +87,21 @@ void korimo_plot::couple_x_axes()
             SLOT(scaleDivChangedSlot()));
     connect(my_plot->axisWidget(QwtAxis::YLeft), SIGNAL(scaleDivChanged()), this,
             SLOT(scaleDivChangedSlot()));
+}
+
+// Only the time axis is coupled, and only from the lower plot to the upper one.
+void korimo_plot::scaleDivChangedSlot()
+{
+    if (!my_plot || !my_plot_2)
+        return;
+    if (sender() == my_plot->axisWidget(QwtAxis::XBottom)) {
+        last_scaled_plot = 1;
+        const QwtInterval time = my_plot->axisInterval(QwtAxis::XBottom);
+        my_plot_2->setAxisScale(QwtAxis::XBottom, time.minValue(), time.maxValue(), 0);
+    } else {
+        last_scaled_plot = 2;
+    }
+    my_plot_2->replot();
 }
 
 void korimo_plot::set_up_panning()

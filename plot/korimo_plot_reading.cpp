@@ -18,14 +18,20 @@ QStringView file_name_of(QStringView path)
 
 } // namespace
 
+bool korimo_plot::open_or_report(QFile& file)
+{
+    const bool opened = open_result_file(file);
+    if (!opened)
+        show_error(QStringLiteral("Error"), QStringLiteral("Could not open or read file"));
+    return opened;
+}
+
 void korimo_plot::readFile(QString filepath)
 {
     kennlinien_list.clear();
     QFile file(filepath);
-    if (!open_result_file(file)) {
-        show_error(QStringLiteral("Error"), QStringLiteral("Could not open or read file"));
+    if (!open_or_report(file))
         return;
-    }
     text_lines lines(file);
     switch (file_kind_of(filepath)) {
     case file_kind::wel:
@@ -58,10 +64,8 @@ void korimo_plot::read_DKL(QString filepath, QString dkl_item)
 {
     plot_mode = 8;
     QFile file(filepath);
-    if (!open_result_file(file)) {
-        show_error(QStringLiteral("Error"), QStringLiteral("Could not open or read file"));
+    if (!open_or_report(file))
         return;
-    }
     text_lines lines(file);
     read_dkl(lines, dkl_item, wel_title, series);
 }

@@ -27,7 +27,7 @@ public:
     explicit MainWindow(QWidget* parent = nullptr);
     ~MainWindow() override;
 
-    /// The document of the file or curve that is shown; null while there is none.
+    /// The document that is shown, for tests and tools; null while there is none.
     korimo_plot* shown_document() const { return document; }
 
 public slots:

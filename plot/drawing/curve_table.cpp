@@ -52,7 +52,7 @@ constexpr plot_mode_rule rules[] = {
     // The spillway runs at the highest levels only: its curve takes the end of the level list.
     {9, {{    0, 11,  1, lower, blue,  u"Qg"},
          {    1, 13,  1, lower, green, u"Qhw", true},
-         {    2, 23,  1, upper, red,   u"V"}},
+         {    2, 23,  1, upper, red,   u"V", false, true}},
      {u"Q [m3/s]", u"h [müNHN]"}, {u"V [Tsd. m3]", u"h [müNHN]"}},
 };
 // clang-format on

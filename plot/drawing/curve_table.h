@@ -1,6 +1,6 @@
 #pragma once
 
-#include "plot/reading/short_list.h"
+#include "plot/short_list.h"
 
 #include <Qt>
 #include <QtTypes>
@@ -23,6 +23,7 @@ struct curve_rule
     Qt::GlobalColor colour;
     const char16_t* title;  ///< null: the title line of the file
     bool tail_of_y = false; ///< takes only the last values of y, as many as x has
+    bool sets_axes = false; ///< is put on the bottom and the left axis before it is attached
 };
 
 /// The titles of the bottom and the left axis of one plot; null leaves the title as it is.

@@ -2,6 +2,7 @@
 
 #include "plot/reading/dkl_lines.h"
 #include "plot/reading/text_lines.h"
+#include "plot/reading/tokens.h"
 
 #include <QDebug>
 #include <QStringList>
@@ -21,7 +22,7 @@ bool is_header_of(const QString& line, const QStringList& name_parts)
 // 0, whatever stands before the exponent. That is deliberately lopsided.
 void append_point(const QString& line, series_store& series)
 {
-    const QStringList fields = line.split(u' ', Qt::SkipEmptyParts);
+    const QStringList fields = tokens_of(line);
     const double level = fields.value(0).toDouble();
     const double discharge = fields.value(1).toDouble();
     const bool has_zero = level == 0.0 || discharge == 0.0;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "plot/reading/short_list.h"
+#include "plot/short_list.h"
 
 #include <QStringView>
 

@@ -25,7 +25,7 @@ bool names_a_curve(const QString& line)
     return !is_dkl_heading(line) && line.contains(u"km");
 }
 
-QStringList header_words(QByteArrayView line)
+QStringList header_words(const QString& line)
 {
     QStringList words = tokens_of(line);
     for (const QStringView filler : filler_words)
@@ -55,7 +55,7 @@ QStringList list_dkl_names(text_lines& lines)
         const QString line = decoded(bytes);
         if (!names_a_curve(line))
             continue;
-        const QStringList words = header_words(bytes);
+        const QStringList words = header_words(line);
         if (words.size() >= 4)
             names.append(words[3] + u'_' + words[0] + u'_' + words[1]);
         else if (debug_log_is_on())

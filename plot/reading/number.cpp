@@ -5,7 +5,7 @@
 #include <QString>
 
 #include <charconv>
-#include <cmath>
+#include <system_error>
 
 namespace {
 

@@ -7,7 +7,7 @@
 
 namespace {
 
-constexpr qsizetype block_size = 256 * 1024;
+constexpr qsizetype block_size = 262'144;
 constexpr QByteArrayView utf8_mark("\xEF\xBB\xBF");
 
 constexpr QStringDecoder::Flags keep_marks = QStringDecoder::Flag::ConvertInitialBom;

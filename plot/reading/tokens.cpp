@@ -1,7 +1,5 @@
 #include "plot/reading/tokens.h"
 
-#include "plot/reading/text_lines.h"
-
 bool token_cursor::next(QByteArrayView& token)
 {
     qsizetype first = 0;
@@ -15,7 +13,7 @@ bool token_cursor::next(QByteArrayView& token)
     return !token.isEmpty();
 }
 
-QStringList tokens_of(QByteArrayView line)
+QStringList tokens_of(const QString& line)
 {
-    return decoded(line).split(u' ', Qt::SkipEmptyParts);
+    return line.split(u' ', Qt::SkipEmptyParts);
 }

@@ -20,5 +20,5 @@ private:
     QByteArrayView rest;
 };
 
-/// All tokens of `line`, decoded.
-QStringList tokens_of(QByteArrayView line);
+/// All tokens of `line`.
+QStringList tokens_of(const QString& line);

@@ -8,6 +8,8 @@
 
 #include <QDebug>
 
+#include <algorithm>
+#include <optional>
 #include <vector>
 
 namespace {
@@ -42,7 +44,7 @@ bool store_row(const row& values, const column_routing& columns, series_store& s
 void log_row(QByteArrayView line, bool ok)
 {
     if (debug_log_is_on())
-        qDebug() << tokens_of(line) << ok;
+        qDebug() << tokens_of(decoded(line)) << ok;
 }
 
 void log_overlong_row(QByteArrayView line, const element_kind& kind, const column_routing& columns)
@@ -51,7 +53,7 @@ void log_overlong_row(QByteArrayView line, const element_kind& kind, const colum
         return;
     // Only a basin's log names the token that does not fit.
     if (kind.logs_excess_token)
-        qDebug() << tokens_of(line).value(static_cast<qsizetype>(columns.size()));
+        qDebug() << tokens_of(decoded(line)).value(static_cast<qsizetype>(columns.size()));
     const QByteArray message = QByteArray(" i outside of bounds ") + kind.name;
     qDebug() << "void korimo_plot::readFile(QString)" << message.constData();
 }

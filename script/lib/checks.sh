@@ -65,7 +65,7 @@ run_tests() {
   local results=$build_dir/$1/results.xml before=$failed status=0
   rm -f -- "$results"
   say "testing $1 …"
-  ctest --preset "$1" --output-junit "$results" || status=$?
+  ctest --preset "$1" --parallel "$(nproc)" --output-junit "$results" || status=$?
   count_results "$results"
   ((status == 0 || failed > before)) || fail "ctest $1 ended with code $status"
 }
