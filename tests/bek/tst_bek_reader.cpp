@@ -1,9 +1,12 @@
 #include "plot/reading/bek_reader.h"
 #include "plot/reading/text_lines.h"
+#include "tests/support/modal_boxes.h"
 #include "tests/support/plot_pair.h"
 
 #include <QBuffer>
 #include <QTest>
+
+#include <algorithm>
 
 namespace {
 
@@ -41,6 +44,8 @@ private slots:
     void spillway();
     void short_line();
     void silent_when_it_cannot_be_opened();
+    void case_of_the_identifier_matters();
+    void slot_reads_a_file();
 };
 
 void tst_bek_reader::blocks()
@@ -54,6 +59,8 @@ void tst_bek_reader::blocks()
              "B1   ");
     QCOMPARE(series[1], (values{1, 2, 4, 7, 8}));
     QCOMPARE(series[11], (values{10, 20, 40, 70, 80}));
+    QCOMPARE(series[13], values());
+    QCOMPARE(series[23], (values{0, 0, 0, 0, 0}));
 }
 
 void tst_bek_reader::values_of_a_row()
@@ -103,9 +110,31 @@ void tst_bek_reader::short_line()
 void tst_bek_reader::silent_when_it_cannot_be_opened()
 {
     const plot_pair plots;
+    const modal_boxes boxes;
     plots.document->read_BEK("missing.bek", "B1   ");
+    QVERIFY(boxes.shown().isEmpty());
     QCOMPARE(plots.document->plot_mode, 9);
     QCOMPARE(plots.document->series, series_store());
+}
+
+void tst_bek_reader::case_of_the_identifier_matters()
+{
+    QCOMPARE(read(line("B1", "1", "1", "1", "1"), "b1   "), series_store());
+}
+
+// The basin stands in two blocks of the file, up to its crest and above it.
+void tst_bek_reader::slot_reads_a_file()
+{
+    const plot_pair plots;
+    plots.document->readFile(EXAMPLES_DIR "/Erlenbach.bek");
+    const QStringList names = plots.document->get_kennlinien_list();
+    QVERIFY(!names.isEmpty() && names.count(names[0]) == 2);
+    plots.document->read_BEK(EXAMPLES_DIR "/Erlenbach.bek", names[0]);
+    QCOMPARE(plots.document->plot_mode, 9);
+    QVERIFY(plots.document->series[1].size() > 4);
+    QVERIFY(std::ranges::is_sorted(plots.document->series[1]));
+    QVERIFY(std::ranges::is_sorted(plots.document->series[23]));
+    QCOMPARE(plots.document->series[11].size(), plots.document->series[1].size());
 }
 
 QTEST_MAIN(tst_bek_reader)

@@ -1,7 +1,5 @@
 #include "tests/support/plot_pair.h"
 
-#include <qwt_interval.h>
-
 #include <QTest>
 
 namespace {
@@ -62,17 +60,18 @@ void tst_axis_scales::fixed_ranges()
     const auto get = [&] {
         return is_y ? document.get_y_axis_scale(plot) : document.get_x_axis_scale(plot, axis);
     };
+    const QwtAxisId id = is_y               ? QwtAxis::YLeft
+                         : axis == "bottom" ? QwtAxis::XBottom
+                                            : QwtAxis::XTop;
     plot->updateAxes();
     QCOMPARE(get(), (range{0, 1000}));
     if (is_y)
         document.set_y_axis_scale(plot, {2.5, 7, 99});
     else
         document.set_x_axis_scale(plot, {2.5, 7, 99}, axis);
+    QVERIFY(get() != (range{2.5, 7})); // not yet redrawn
     plot->replot();
     QCOMPARE(get(), (range{2.5, 7}));
-    const QwtAxisId id = is_y               ? QwtAxis::YLeft
-                         : axis == "bottom" ? QwtAxis::XBottom
-                                            : QwtAxis::XTop;
     QVERIFY(!plot->axisAutoScale(id));
     QCOMPARE(plot->axisStepSize(id), 0.0);
     QCOMPARE(statuses_of(document), (statuses{axis == "bottom", axis == "top", is_y, false}));
@@ -111,8 +110,10 @@ void tst_axis_scales::inverted()
 {
     const plot_pair plots;
     plots.document->set_y_axis_scale(plots.lower.get(), {9, 1});
+    plots.document->set_x_axis_scale(plots.lower.get(), {20, 10}, "bottom");
     plots.lower->replot();
     QCOMPARE(plots.document->get_y_axis_scale(plots.lower.get()), (range{9, 1}));
+    QCOMPARE(plots.document->get_x_axis_scale(plots.lower.get(), "bottom"), (range{20, 10}));
 }
 
 void tst_axis_scales::lower_time_axis_moves_the_upper_one()

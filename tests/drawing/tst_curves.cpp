@@ -76,6 +76,7 @@ private slots:
     void lists_of_unequal_length();
     void tail_of_the_levels_data();
     void tail_of_the_levels();
+    void volume_of_a_basin_table_sets_its_axes();
     void unused_curves_keep_their_samples();
     void invalid_mode();
 };
@@ -225,6 +226,18 @@ void tst_curves::tail_of_the_levels()
     plots.document->series[13].fill(0.5, spillway_values);
     plots.plot();
     QCOMPARE(samples(*plots.document->curves[1], false), levels);
+}
+
+void tst_curves::volume_of_a_basin_table_sets_its_axes()
+{
+    const plot_pair plots;
+    for (QwtPlotCurve* curve : plots.document->curves)
+        curve->setAxes(QwtAxis::XTop, QwtAxis::YRight);
+    plots.document->plot_mode = 9;
+    plots.plot();
+    QCOMPARE(plots.document->curves[2]->xAxis(), QwtAxisId(QwtAxis::XBottom));
+    QCOMPARE(plots.document->curves[2]->yAxis(), QwtAxisId(QwtAxis::YLeft));
+    QCOMPARE(plots.document->curves[1]->yAxis(), QwtAxisId(QwtAxis::YRight));
 }
 
 void tst_curves::unused_curves_keep_their_samples()

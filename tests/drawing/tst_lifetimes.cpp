@@ -76,6 +76,11 @@ void tst_lifetimes::plots_first_without_a_pass()
     plots.lower.reset();
     plots.upper.reset();
     QVERIFY(plots.document->curves[0] && plots.document->grid_lower);
+    const QPointer<QwtLegend> lower_legend = plots.document->legend_lower;
+    const QPointer<QwtLegend> upper_legend = plots.document->legend_upper;
+    QVERIFY(lower_legend && upper_legend);
+    plots.document.reset();
+    QVERIFY(!lower_legend && !upper_legend);
 }
 
 void tst_lifetimes::coupling_ends_with_the_upper_plot()

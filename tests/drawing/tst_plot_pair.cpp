@@ -1,3 +1,4 @@
+#include "tests/support/modal_boxes.h"
 #include "tests/support/plot_pair.h"
 
 #include <qwt_interval.h>
@@ -6,7 +7,6 @@
 #include <qwt_scale_widget.h>
 
 #include <QPen>
-#include <QSignalSpy>
 #include <QTest>
 #include <QWheelEvent>
 
@@ -76,13 +76,19 @@ private slots:
     void right_button_with_alt_zooms();
     void upper_plot_has_no_mouse_tools();
     void coupling_of_the_time_axes();
+    void upper_plot_is_redrawn_with_the_lower_values();
     void second_pass_of_the_same_document();
+
+private:
+    void check_legends_and_scales(const plot_pair& plots);
+    void check_grids(const plot_pair& plots);
+    void check_mouse_tools(const korimo_plot& document);
 };
 
 void tst_plot_pair::every_mode_is_finished_data()
 {
     QTest::addColumn<int>("mode");
-    for (const int mode : {0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10})
+    for (int mode = -1; mode <= 10; ++mode)
         QTest::addRow("%d", mode) << mode;
 }
 
@@ -90,14 +96,25 @@ void tst_plot_pair::every_mode_is_finished()
 {
     QFETCH(int, mode);
     const plot_pair plots;
-    korimo_plot& document = *plots.document;
-    document.plot_mode = mode;
+    const modal_boxes boxes;
+    plots.document->plot_mode = mode;
     for (const QwtAxisId axis : {QwtAxis::YLeft, QwtAxis::XBottom, QwtAxis::XTop}) {
         plots.lower->setAxisAutoScale(axis, false);
         plots.upper->setAxisAutoScale(axis, false);
     }
     plots.plot();
+    QCOMPARE(boxes.shown().size(), mode == -1 ? 1 : 0);
+    check_legends_and_scales(plots);
+    check_grids(plots);
+    check_mouse_tools(*plots.document);
+    plots.lower->setAxisScale(QwtAxis::XBottom, 10, 20);
+    plots.lower->replot();
+    QCOMPARE(range(*plots.upper, QwtAxis::XBottom), QwtInterval(10, 20));
+}
 
+void tst_plot_pair::check_legends_and_scales(const plot_pair& plots)
+{
+    const korimo_plot& document = *plots.document;
     QCOMPARE(document.legend_lower->windowTitle(), "Lgende");
     QCOMPARE(document.legend_upper->windowTitle(), "Legende");
     QCOMPARE(plots.lower->legend(), document.legend_lower);
@@ -114,7 +131,11 @@ void tst_plot_pair::every_mode_is_finished()
     }
     QVERIFY(!plots.upper->axisAutoScale(QwtAxis::XTop));
     QVERIFY(!floats(*plots.upper, QwtAxis::XTop));
+}
 
+void tst_plot_pair::check_grids(const plot_pair& plots)
+{
+    const korimo_plot& document = *plots.document;
     const QPen default_major = QwtPlotGrid().majorPen();
     const std::pair<QwtPlotGrid*, QwtPlot*> grids[] = {{document.grid_lower, plots.lower.get()},
                                                        {document.grid_upper, plots.upper.get()}};
@@ -124,7 +145,10 @@ void tst_plot_pair::every_mode_is_finished()
         QCOMPARE(grid->minorPen(), QPen(QColor(Qt::gray), 0.5, Qt::SolidLine));
         QCOMPARE(grid->majorPen(), default_major);
     }
+}
 
+void tst_plot_pair::check_mouse_tools(const korimo_plot& document)
+{
     QVERIFY(!document.magnifier_a->isAxisEnabled(QwtAxis::YLeft));
     for (const QwtAxisId axis : {QwtAxis::YRight, QwtAxis::XBottom, QwtAxis::XTop})
         QVERIFY(document.magnifier_a->isAxisEnabled(axis));
@@ -221,6 +245,15 @@ void tst_plot_pair::coupling_of_the_time_axes()
     plots.upper->setAxisScale(QwtAxis::XBottom, 30, 40);
     plots.upper->replot();
     QCOMPARE(range(*plots.lower, QwtAxis::XBottom), QwtInterval(10, 20));
+}
+
+void tst_plot_pair::upper_plot_is_redrawn_with_the_lower_values()
+{
+    const drawn_gauge plots;
+    plots.upper->setAxisScale(QwtAxis::YLeft, 1, 2);
+    plots.lower->setAxisScale(QwtAxis::YLeft, -3, 4);
+    plots.lower->replot();
+    QCOMPARE(range(*plots.upper, QwtAxis::YLeft), QwtInterval(1, 2));
 }
 
 void tst_plot_pair::second_pass_of_the_same_document()

@@ -1,5 +1,9 @@
+#include "plot/korimo_plot.h"
 #include "tests/support/modal_boxes.h"
 #include "tests/support/window_driver.h"
+
+#include <qwt_interval.h>
+#include <qwt_plot.h>
 
 #include <QAbstractItemView>
 #include <QComboBox>
@@ -19,9 +23,9 @@ namespace {
 // Runs `act` on the file dialog as soon as it is open. A dialog that stays open is closed later, so
 // that the test goes on to fail.
 template <class action>
-void with_file_dialog(const action& act)
+void with_file_dialog(QObject& rescue, const action& act)
 {
-    QTimer::singleShot(20000, qApp, [] {
+    QTimer::singleShot(20000, &rescue, [] {
         if (auto* const dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget()))
             dialog->reject();
     });
@@ -89,6 +93,7 @@ private slots:
     void remove_without_selection();
     void remove_selected_data();
     void remove_selected();
+    void remove_forgets_fixed_ranges();
 };
 
 void tst_file_list::drag_enter()
@@ -180,7 +185,7 @@ void tst_file_list::dialog_lists_the_three_kinds()
     QStringList found;
     QString caption;
     QString filter;
-    with_file_dialog([&](QFileDialog& dialog) {
+    with_file_dialog(driver.window, [&](QFileDialog& dialog) {
         caption = dialog.windowTitle();
         filter = dialog.nameFilters().join("|");
         dialog.setDirectory(driver.folder.path());
@@ -208,7 +213,7 @@ void tst_file_list::dialog_adds_in_order_and_once()
     const QString second = driver.add("b.bek", "");
     driver.list->clear();
     for (int run = 0; run < 2; ++run) {
-        with_file_dialog([&](QFileDialog& dialog) {
+        with_file_dialog(driver.window, [&](QFileDialog& dialog) {
             dialog.setDirectory(driver.folder.path());
             QTRY_COMPARE(listed_files(dialog), (QStringList{"a.wel", "b.bek"}));
             auto* const view = dialog.findChild<QListView*>("listView");
@@ -231,7 +236,8 @@ void tst_file_list::dialog_adds_in_order_and_once()
 void tst_file_list::dialog_cancelled()
 {
     window_driver driver;
-    with_file_dialog([](QFileDialog& dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); });
+    with_file_dialog(driver.window,
+                     [](QFileDialog& dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); });
     driver.window.on_action_oeffenen_triggered();
     QCOMPARE(driver.list->count(), 0);
 }
@@ -262,24 +268,45 @@ void tst_file_list::remove_without_selection()
 void tst_file_list::remove_selected_data()
 {
     QTest::addColumn<int>("row");
-    for (int row = 0; row < 3; ++row)
-        QTest::addRow("%d", row) << row;
+    QTest::addColumn<QString>("button");
+    QTest::newRow("first") << 0 << "Read";
+    QTest::newRow("middle") << 1 << "Plot";
+    QTest::newRow("last") << 2 << "Read";
 }
 
 // Taking a row out makes its neighbour the current row, and the commands follow that one.
 void tst_file_list::remove_selected()
 {
     QFETCH(int, row);
+    QFETCH(QString, button);
     window_driver driver;
-    QStringList paths{driver.add("a_K.wel", node_file(3)), driver.add("b_K.wel", node_file(3)),
+    QStringList paths{driver.add("a_K.wel", node_file(3)), driver.add("b.bek", ""),
                       driver.add("c_K.wel", node_file(3))};
     driver.select(row);
     driver.press(driver.button);
-    QCOMPARE(driver.button->text(), "Clear");
+    QVERIFY(driver.window.shown_document());
     driver.press(driver.remove);
     paths.removeAt(row);
     QCOMPARE(driver.files(), paths);
-    QCOMPARE(driver.button->text(), "Plot");
+    QCOMPARE(driver.button->text(), button);
+    QVERIFY(!driver.window.shown_document());
+    QVERIFY(driver.lower->itemList().isEmpty() && driver.upper->itemList().isEmpty());
+}
+
+// The selection changes twice, and the second time there is no document to keep ranges of.
+void tst_file_list::remove_forgets_fixed_ranges()
+{
+    window_driver driver;
+    driver.add("a_K.wel", node_file(3));
+    driver.add("b_K.wel", node_file(3));
+    driver.select(0);
+    driver.press(driver.button);
+    driver.window.shown_document()->set_x_axis_scale(driver.lower, {5, 50}, "bottom");
+    driver.lower->replot();
+    driver.press(driver.remove);
+    driver.select(0);
+    driver.press(driver.button);
+    QCOMPARE(driver.lower->axisInterval(QwtAxis::XBottom), QwtInterval(0, 72));
 }
 
 QTEST_MAIN(tst_file_list)

@@ -8,6 +8,7 @@
 #include <QListWidget>
 #include <QMenuBar>
 #include <QMetaMethod>
+#include <QPointer>
 #include <QPushButton>
 #include <QStatusBar>
 #include <QTest>
@@ -36,6 +37,17 @@ QStringList slots_of(const QMetaObject& meta)
     return names;
 }
 
+struct close_counter : QObject
+{
+    bool eventFilter(QObject* /*watched*/, QEvent* event) override
+    {
+        count += event->type() == QEvent::Close ? 1 : 0;
+        return false;
+    }
+
+    int count = 0;
+};
+
 } // namespace
 
 class tst_layout : public QObject
@@ -57,6 +69,8 @@ private slots:
     void closing_data();
     void closing();
     void dialogs();
+    void connections_data();
+    void connections();
 };
 
 void tst_layout::window()
@@ -290,18 +304,74 @@ void tst_layout::closing()
     QVERIFY(!window.isVisible());
 }
 
+// The dialogs have no parent; they live and die with the window all the same.
 void tst_layout::dialogs()
 {
-    const MainWindow window;
-    const auto owned = QApplication::topLevelWidgets();
-    const auto has = [&](const char* name) {
-        return std::ranges::any_of(owned, [&](const QWidget* widget) {
-            return widget->objectName() == name && !widget->parent() &&
-                   !widget->windowIcon().isNull() && !widget->isVisible();
-        });
+    QList<QPointer<QWidget>> dialogs;
+    {
+        const MainWindow window;
+        for (QWidget* widget : QApplication::topLevelWidgets()) {
+            if (qobject_cast<axis_dialog*>(widget) || qobject_cast<rename_dialog*>(widget))
+                dialogs.append(widget);
+        }
+        QCOMPARE(dialogs.size(), 2);
+        for (const QWidget* dialog : dialogs)
+            QVERIFY(!dialog->parent() && !dialog->windowIcon().isNull() && !dialog->isVisible());
+    }
+    QVERIFY(!dialogs[0] && !dialogs[1]);
+}
+
+void tst_layout::connections_data()
+{
+    QTest::addColumn<QByteArray>("signal");
+    QTest::addColumn<QByteArray>("slot");
+    QTest::addColumn<int>("times");
+    const auto row = [](const char* sender, const char* signal, const char* slot, int times = 1) {
+        QTest::newRow(sender) << QByteArray(signal) << QByteArray(slot) << times;
     };
-    QVERIFY(has("axis_dialog"));
-    QVERIFY(has("rename_dialog"));
+    const char* const clicked = SIGNAL(clicked());
+    const char* const triggered = SIGNAL(triggered());
+    row("pushButton", clicked, SLOT(buttonClicked()));
+    row("pushButton_3", clicked, SLOT(remove_file_clicked()));
+    row("pushButton_2", clicked, SLOT(plotDKl_Clicked()));
+    row("pushButton_b_start", clicked, SLOT(back_to_start_clicked()));
+    row("pushButton_b", clicked, SLOT(back_one_clicked()));
+    row("pushButton_f", clicked, SLOT(forward_one_clicked()));
+    row("pushButton_f_end", clicked, SLOT(forward_to_end_clicked()));
+    row("listWidget", SIGNAL(itemSelectionChanged()), SLOT(listWidget_item_changed()));
+    row("action_oeffnen", triggered, SLOT(on_action_oeffenen_triggered()));
+    row("action_schliessen", triggered, SLOT(on_action_schliessen_triggered()), 2);
+    row("actionQt_Licensing_Information", triggered,
+        SLOT(on_action_Qt_Licensing_Information_triggered()));
+    row("actionOrvan_Information", triggered, SLOT(on_action_Orvan_Information_triggered()));
+    row("actionLGPLv3", triggered, SLOT(on_action_LGPLv3_triggered()));
+    row("actionHandbuch", triggered, SLOT(on_action_Handbuch_triggered()));
+    row("action_speicher", triggered, SLOT(on_action_speicher_triggered()));
+    row("action_y_achse_unten", triggered, SLOT(on_action_y_achse_unten_triggered()));
+    row("actionx_Achse_unten", triggered, SLOT(on_actionx_Achse_unten_triggered()));
+    row("actiony_Achse_oben", triggered, SLOT(on_actiony_Achse_oben_triggered()));
+    row("actionx_Achse_oben", triggered, SLOT(on_actionx_Achse_oben_triggered()));
+    row("action2_X_Achse_unten", triggered, SLOT(on_action2_X_Achse_unten_triggered()));
+    row("actionZeitreihe_change_names", triggered,
+        SLOT(on_actionZeitreihe_change_names_triggered()));
+}
+
+// Every connection of this kind that is there can be taken off once, for as often as it was made.
+void tst_layout::connections()
+{
+    QFETCH(QByteArray, signal);
+    QFETCH(QByteArray, slot);
+    QFETCH(int, times);
+    MainWindow window;
+    auto* const sender = window.findChild<QObject*>(QTest::currentDataTag());
+    QVERIFY(sender);
+    close_counter closes;
+    window.installEventFilter(&closes);
+    if (auto* const action = qobject_cast<QAction*>(sender); action && times == 2) {
+        action->trigger();
+        QCOMPARE(closes.count, times);
+    }
+    QVERIFY(QObject::disconnect(sender, signal, &window, slot));
 }
 
 QTEST_MAIN(tst_layout)

@@ -8,6 +8,7 @@
 #include <qwt_text.h>
 
 #include <QListWidget>
+#include <QPointer>
 #include <QPushButton>
 #include <QTest>
 
@@ -282,7 +283,10 @@ void tst_plot_commands::window_closed_with_a_plot()
     driver->select(0);
     driver->press(driver->button);
     driver->window.close();
+    const QPointer<korimo_plot> document = driver->window.shown_document();
+    QVERIFY(document);
     driver.reset();
+    QVERIFY(!document);
 }
 
 QTEST_MAIN(tst_plot_commands)

@@ -8,6 +8,8 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <memory>
+
 namespace {
 
 constexpr char sheet_path[] = ":styles/look_and_feel/global_style.qss";
@@ -96,17 +98,12 @@ void tst_startup::resources()
 
 void tst_startup::style_sheet_bytes()
 {
-    const QByteArray sheet = bytes_of(sheet_path);
-    QCOMPARE(sheet.size(), 381);
-    QVERIFY(sheet.endsWith("}") && !sheet.contains('\r'));
-    QCOMPARE(sheet.count("background-color: #c9c7c7;"), 1);
-    QCOMPARE(sheet.count("background-color: #f2f0f0;"), 7);
-    QStringList selectors;
-    for (const QString& rule : QString::fromLatin1(sheet).split("\n\n"))
-        selectors.append(rule.section(' ', 0, 0));
-    QCOMPARE(selectors,
-             (QStringList{"QMainWindow", "QDialog", "QPlainTextEdit", "QTextEdit", "QFileDialog",
-                          "QMessageBox", "QTableWidget", "QTextBrowser"}));
+    QByteArray expected = "QMainWindow {\n    background-color: #c9c7c7;\n}";
+    for (const char* widget : {"QDialog", "QPlainTextEdit", "QTextEdit", "QFileDialog",
+                               "QMessageBox", "QTableWidget", "QTextBrowser"})
+        expected += QByteArray("\n\n") + widget + " {\n    background-color: #f2f0f0;\n}";
+    QCOMPARE(bytes_of(sheet_path), expected);
+    QCOMPARE(expected.size(), 381);
 }
 
 void tst_startup::light_without_the_setting()

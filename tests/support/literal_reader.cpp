@@ -15,6 +15,51 @@ QString logged(const values&... each)
     return text.trimmed();
 }
 
+struct literal_kind
+{
+    QString name;
+    int plot_mode = -1;
+    QList<int> columns;
+};
+
+literal_kind kind_of(const QString& file_name, qsizetype tokens)
+{
+    if (file_name.contains("_B") && tokens == 7)
+        return {"B", 1, {0, 10, 11, 13, 14, 23, 24}};
+    if (file_name.contains("_B"))
+        return {"B", 1, {0, 1, 10, 11, 13, 14, 16, 23, 24}};
+    if (file_name.contains("_K") || file_name.contains("_N"))
+        return {"KN", 0, {0, 2, 3, 4, 5, 6, 7, 9, 8, 12}};
+    if (file_name.contains("_V"))
+        return {"V", 3, {0, 10, 5, 6}};
+    if (file_name.contains("_T"))
+        return {"T", 2, {0, 10, 14, 16, 17, 18, 19, 23, 21, 22}};
+    if (file_name.contains("_E"))
+        return {"E", 6, {0, 10}};
+    if (file_name.contains("_P"))
+        return {"P", 5, {0, 12, 20}};
+    return {};
+}
+
+// Appends one row; answers whether it fits.
+bool take_row(const QStringList& tokens, const literal_kind& kind, literal_reading& result)
+{
+    for (qsizetype i = 0; i < tokens.size(); ++i) {
+        if (i == kind.columns.size()) {
+            if (kind.name == "B")
+                result.log.append(logged(tokens[i]));
+            const QByteArray message = (" i outside of bounds " + kind.name).toUtf8();
+            result.log.append(logged("void korimo_plot::readFile(QString)", message.constData()));
+            return false;
+        }
+        QString token = tokens[i];
+        if (kind.name == "B" && (kind.columns[i] == 23 || kind.columns[i] == 24))
+            token = token.toLower();
+        result.series[static_cast<std::size_t>(kind.columns[i])].append(token.toDouble());
+    }
+    return true;
+}
+
 // One line of a WEL file; answers whether reading goes on.
 bool take_wel_line(const QString& line, const QString& name, literal_reading& result)
 {
@@ -30,56 +75,11 @@ bool take_wel_line(const QString& line, const QString& name, literal_reading& re
             break;
     }
     result.log.append(logged(tokens, ok));
-    if (!ok)
+    const literal_kind kind = kind_of(name, tokens.size());
+    if (!ok || kind.name.isEmpty())
         return true;
-
-    QString kind;
-    QList<int> columns;
-    if (name.contains("_B")) {
-        kind = "B";
-        result.plot_mode = 1;
-        if (tokens.size() == 7)
-            columns = {0, 10, 11, 13, 14, 23, 24};
-        else
-            columns = {0, 1, 10, 11, 13, 14, 16, 23, 24};
-    } else if (name.contains("_K") || name.contains("_N")) {
-        kind = "KN";
-        result.plot_mode = 0;
-        columns = {0, 2, 3, 4, 5, 6, 7, 9, 8, 12};
-    } else if (name.contains("_V")) {
-        kind = "V";
-        result.plot_mode = 3;
-        columns = {0, 10, 5, 6};
-    } else if (name.contains("_T")) {
-        kind = "T";
-        result.plot_mode = 2;
-        columns = {0, 10, 14, 16, 17, 18, 19, 23, 21, 22};
-    } else if (name.contains("_E")) {
-        kind = "E";
-        result.plot_mode = 6;
-        columns = {0, 10};
-    } else if (name.contains("_P")) {
-        kind = "P";
-        result.plot_mode = 5;
-        columns = {0, 12, 20};
-    } else {
-        return true;
-    }
-
-    for (qsizetype i = 0; i < tokens.size(); ++i) {
-        if (i == columns.size()) {
-            if (kind == "B")
-                result.log.append(logged(tokens[i]));
-            const QByteArray message = (" i outside of bounds " + kind).toUtf8();
-            result.log.append(logged("void korimo_plot::readFile(QString)", message.constData()));
-            return false;
-        }
-        QString token = tokens[i];
-        if (kind == "B" && (columns[i] == 23 || columns[i] == 24))
-            token = token.toLower();
-        result.series[static_cast<std::size_t>(columns[i])].append(token.toDouble());
-    }
-    return true;
+    result.plot_mode = kind.plot_mode;
+    return take_row(tokens, kind, result);
 }
 
 void take_bek_line(const QString& line, literal_reading& result)
