@@ -56,6 +56,7 @@ private slots:
     void file_without_marker();
     void another_file_clears_the_plots();
     void gap_of_the_legend_closes();
+    void held_document_is_destroyed_first();
     void item_change_without_current_item();
     void window_closed_with_a_plot();
 };
@@ -266,6 +267,21 @@ void tst_plot_commands::gap_of_the_legend_closes()
     driver.press(driver.button);
     QCOMPARE(driver.lower->canvas()->width(), lower);
     QCOMPARE(driver.upper->canvas()->width(), upper);
+}
+
+// No way leads here by mouse and keyboard: "Plot" is named "Clear" while a document is held.
+void tst_plot_commands::held_document_is_destroyed_first()
+{
+    window_driver driver;
+    driver.add("x_K.wel", node_file(9));
+    driver.select(0);
+    driver.press(driver.button);
+    const QPointer<korimo_plot> held = driver.window.shown_document();
+    driver.button->setText("Plot");
+    driver.press(driver.button);
+    QVERIFY(!held);
+    QVERIFY(is_drawn(driver));
+    QCOMPARE(driver.lower->itemList(QwtPlotItem::Rtti_PlotCurve).size(), 2);
 }
 
 void tst_plot_commands::item_change_without_current_item()
