@@ -158,10 +158,10 @@ void tst_hydrograph_road::file_dialog_by_typing()
 {
     add_by_typing({"Erlenbach_K1.wel", "Erlenbach_B1.wel"});
     const QRect second_row = first_file_row.translated(0, 16);
-    QVERIFY(program->sees(second_row, Qt::black) > 20);
-    QCOMPARE(program->sees(second_row.translated(0, 32), Qt::black), 0);
+    QTRY_VERIFY(program->sees(second_row, Qt::black) > 20);
+    QTRY_COMPARE(program->sees(second_row.translated(0, 32), Qt::black), 0);
     // Nothing is drawn before "Plot".
-    QCOMPARE(program->sees(place::lower_plot, blue), 0);
+    QTRY_COMPARE(program->sees(place::lower_plot, blue), 0);
 }
 
 // The dialog opens on the working folder and lists the file there, and not the text file.
@@ -190,7 +190,7 @@ void tst_hydrograph_road::file_dialog_by_clicking()
     QTRY_VERIFY(program->sees(first_file_row, Qt::black) > 20);
     select_row(0);
     program->click(place::plot_button.center());
-    QVERIFY(program->sees(place::lower_plot, blue) > 200); // it was the WEL file
+    QTRY_VERIFY(program->sees(place::lower_plot, blue) > 200); // it was the WEL file
 }
 
 void tst_hydrograph_road::drop_from_another_program()
@@ -211,9 +211,9 @@ void tst_hydrograph_road::drop_from_another_program()
         QTRY_VERIFY_WITH_TIMEOUT(source.finished, 10000);
         QCOMPARE(source.result, Qt::CopyAction);
         QTest::qWait(300);
-        QVERIFY(program->sees(first_file_row, Qt::black) > 20);
-        QVERIFY(program->sees(first_file_row.translated(0, 16), Qt::black) > 20);
-        QCOMPARE(program->sees(first_file_row.translated(0, 32), Qt::black), 0);
+        QTRY_VERIFY(program->sees(first_file_row, Qt::black) > 20);
+        QTRY_VERIFY(program->sees(first_file_row.translated(0, 16), Qt::black) > 20);
+        QTRY_COMPARE(program->sees(first_file_row.translated(0, 32), Qt::black), 0);
     }
     for (const QUrl& url : urls)
         QVERIFY(QFile::exists(url.toLocalFile()));
@@ -225,10 +225,10 @@ void tst_hydrograph_road::plot_zoom_pan_and_clear()
     select_row(0);
     const QImage empty = program->look(place::lower_plot);
     program->click(place::plot_button.center());
-    QVERIFY(program->sees(place::lower_plot, blue) > 100);
-    QVERIFY(program->sees(place::lower_plot, green) > 100);
-    QVERIFY(program->sees(place::upper_plot, blue) > 50);
-    QVERIFY(program->sees(place::upper_plot, red) > 50);
+    QTRY_VERIFY(program->sees(place::lower_plot, blue) > 100);
+    QTRY_VERIFY(program->sees(place::lower_plot, green) > 100);
+    QTRY_VERIFY(program->sees(place::upper_plot, blue) > 50);
+    QTRY_VERIFY(program->sees(place::upper_plot, red) > 50);
     const QImage drawn = program->look(place::lower_plot);
     const QImage upper = program->look(place::upper_plot);
     if (qEnvironmentVariableIsSet("KORIMO_SCREENSHOTS"))
@@ -258,8 +258,8 @@ void tst_hydrograph_road::plot_zoom_pan_and_clear()
 
     program->click(place::plot_button.center());
     for (const QColor& colour : {blue, green, red}) {
-        QCOMPARE(program->sees(place::lower_plot, colour), 0);
-        QCOMPARE(program->sees(place::upper_plot, colour), 0);
+        QTRY_COMPARE(program->sees(place::lower_plot, colour), 0);
+        QTRY_COMPARE(program->sees(place::upper_plot, colour), 0);
     }
     program->click(place::plot_button.center());
     QTest::qWait(300);
@@ -272,18 +272,18 @@ void tst_hydrograph_road::change_of_file_and_removal()
     add_by_typing({"Erlenbach_B1.wel", "Erlenbach_P1.wel"});
     select_row(0);
     program->click(place::plot_button.center());
-    QVERIFY(program->sees(place::lower_plot, red) > 100);
-    QVERIFY(program->sees(place::upper_plot, red) > 100);
+    QTRY_VERIFY(program->sees(place::lower_plot, red) > 100);
+    QTRY_VERIFY(program->sees(place::upper_plot, red) > 100);
     select_row(1);
-    QCOMPARE(program->sees(place::lower_plot, red), 0);
-    QCOMPARE(program->sees(place::upper_plot, red), 0);
+    QTRY_COMPARE(program->sees(place::lower_plot, red), 0);
+    QTRY_COMPARE(program->sees(place::upper_plot, red), 0);
     program->click(place::plot_button.center());
-    QVERIFY(program->sees(place::lower_plot, blue) > 50);
-    QVERIFY(program->sees(place::lower_plot, green) > 50);
-    QCOMPARE(program->sees(place::upper_plot, red), 0);
+    QTRY_VERIFY(program->sees(place::lower_plot, blue) > 50);
+    QTRY_VERIFY(program->sees(place::lower_plot, green) > 50);
+    QTRY_COMPARE(program->sees(place::upper_plot, red), 0);
     program->click(place::remove_button.center());
-    QCOMPARE(program->sees(place::lower_plot, blue), 0);
-    QCOMPARE(program->sees(first_file_row.translated(0, 16), Qt::black), 0);
+    QTRY_COMPARE(program->sees(place::lower_plot, blue), 0);
+    QTRY_COMPARE(program->sees(first_file_row.translated(0, 16), Qt::black), 0);
     program->click(place::remove_button.center());
     const QImage empty_list = program->look(first_file_row);
     QCOMPARE(pixels_of(empty_list, empty_list.rect(), Qt::white), 300 * 16);
@@ -293,12 +293,12 @@ void tst_hydrograph_road::two_steps_of_a_basin_table()
 {
     add_by_typing({"Erlenbach.bek"});
     select_row(0);
-    QCOMPARE(program->sees(place::names, Qt::black), 0);
+    QTRY_COMPARE(program->sees(place::names, Qt::black), 0);
     program->click(place::plot_button.center());
-    QVERIFY(program->sees(place::names, Qt::black) > 20);
-    QCOMPARE(program->sees(place::lower_plot, blue), 0);
+    QTRY_VERIFY(program->sees(place::names, Qt::black) > 20);
+    QTRY_COMPARE(program->sees(place::lower_plot, blue), 0);
     program->click(place::plot_button.center());
-    QCOMPARE(program->sees(place::names, Qt::black), 0);
+    QTRY_COMPARE(program->sees(place::names, Qt::black), 0);
 }
 
 void tst_hydrograph_road::message_without_selection()

@@ -9,7 +9,20 @@
 namespace {
 
 constexpr int seconds = 1000;
-constexpr int settled = 250; // time for the program to handle input and paint
+
+// Waits until the program has handled its input, and the screen stands still.
+void settle()
+{
+    const QDeadlineTimer deadline(3 * seconds);
+    QTest::qWait(200);
+    QImage before;
+    QImage now = screenshot();
+    do {
+        before = now;
+        QTest::qWait(80);
+        now = screenshot();
+    } while (now != before && !deadline.hasExpired());
+}
 
 QStringList place_words(const QPoint& point)
 {
@@ -51,7 +64,7 @@ bool viewer::is_shown()
             if (!geometry.contains("WIDTH=941\nHEIGHT=848"))
                 continue;
             xdotool({"windowmove", "--sync", candidate, "100", "60"});
-            QTest::qWait(settled);
+            settle();
             inside = QPoint(100, 60);
             origin = inside + QPoint(0, central_widget_top());
             return true;
@@ -79,7 +92,7 @@ bool viewer::bring(const QString& example) const
 void viewer::click(const QPoint& point) const
 {
     xdotool(QStringList{"mousemove"} + place_words(on_screen(point)) + QStringList{"click", "1"});
-    QTest::qWait(settled);
+    settle();
 }
 
 void viewer::wheel(const QPoint& point, int notches, const QString& modifier) const
@@ -89,7 +102,7 @@ void viewer::wheel(const QPoint& point, int notches, const QString& modifier) co
         xdotool({"keydown", modifier});
     xdotool({"click", "--repeat", QString::number(qAbs(notches)), "--delay", "60",
              notches > 0 ? "4" : "5"});
-    QTest::qWait(settled);
+    settle();
     if (!modifier.isEmpty())
         xdotool({"keyup", modifier});
 }
@@ -104,19 +117,19 @@ void viewer::drag_right(const QPoint& from, const QPoint& to) const
         QTest::qWait(50);
     }
     xdotool({"mouseup", "3"});
-    QTest::qWait(settled);
+    settle();
 }
 
 void viewer::type(const QString& text) const
 {
     xdotool({"type", "--delay", "5", text});
-    QTest::qWait(settled);
+    settle();
 }
 
 void viewer::key(const QString& name) const
 {
     xdotool({"key", name});
-    QTest::qWait(settled);
+    settle();
 }
 
 void viewer::choose_file_entry(int entry) const

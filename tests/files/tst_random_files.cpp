@@ -3,8 +3,8 @@
 #include "tests/support/literal_reader.h"
 #include "tests/support/log_capture.h"
 #include "tests/support/plot_pair.h"
+#include "tests/support/write_file.h"
 
-#include <QFile>
 #include <QRandomGenerator>
 #include <QTemporaryDir>
 #include <QTest>
@@ -138,13 +138,6 @@ QByteArray random_file(const QString& name, QRandomGenerator& random)
     return bytes;
 }
 
-void write(const QString& path, const QByteArray& bytes)
-{
-    QFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
-        qFatal("cannot write a temporary file");
-}
-
 } // namespace
 
 class tst_random_files : public QObject
@@ -174,7 +167,7 @@ void tst_random_files::as_the_literal_reader()
     const plot_pair plots;
     for (int i = 0; i < files; ++i) {
         const QByteArray bytes = random_file(name, random);
-        write(path, bytes);
+        write_file(path, bytes);
         const literal_reading expected = read_literally(path);
         korimo_plot document(plots.lower.get(), plots.upper.get());
         const log_capture log;

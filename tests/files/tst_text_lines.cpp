@@ -1,4 +1,5 @@
 #include "plot/reading/text_lines.h"
+#include "tests/support/write_file.h"
 
 #include <QBuffer>
 #include <QFile>
@@ -15,10 +16,8 @@ using namespace Qt::StringLiterals;
 QStringList stream_lines(const QByteArray& bytes)
 {
     const QTemporaryDir folder;
+    write_file(folder.filePath("text"), bytes);
     QFile file(folder.filePath("text"));
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
-        qFatal("cannot write a temporary file");
-    file.close();
     if (!file.open(QIODevice::ReadOnly | QIODevice::Text))
         qFatal("cannot read a temporary file");
     QTextStream stream(&file);

@@ -1,5 +1,4 @@
 #include "tests/support/document_dump.h"
-#include "tests/support/log_capture.h"
 #include "tests/support/plot_pair.h"
 #include "tests/support/sample_files.h"
 
@@ -17,12 +16,7 @@ void tst_name_listing::sample()
 {
     QFETCH(QString, path);
     const plot_pair plots;
-    const log_capture log;
-    plots.document->readFile(path);
-    QString text = dump(*plots.document);
-    for (const QString& line : log_capture::debug_lines())
-        text += "log " + line + "\n";
-    QCOMPARE(text, expected_of(path));
+    QCOMPARE(read_and_dump(*plots.document, path), expected_of(path));
 }
 
 void tst_name_listing::list_is_made_anew()

@@ -1,5 +1,8 @@
 #include "tests/support/document_dump.h"
 
+#include "plot/korimo_plot.h"
+#include "tests/support/log_capture.h"
+
 #include <QLocale>
 
 #include <cmath>
@@ -35,5 +38,15 @@ QString dump(int plot_mode, const QString& title, const QStringList& names,
         if (!series[i].isEmpty())
             text += QStringLiteral("series %1: %2\n").arg(i).arg(exact(series[i]));
     }
+    return text;
+}
+
+QString read_and_dump(korimo_plot& document, const QString& path)
+{
+    const log_capture log;
+    document.readFile(path);
+    QString text = dump(document);
+    for (const QString& line : log_capture::debug_lines())
+        text += "log " + line + "\n";
     return text;
 }

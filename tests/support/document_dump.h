@@ -4,6 +4,8 @@
 
 #include <QStringList>
 
+class korimo_plot;
+
 /// Anything that readers fill: a document, or the result of the literal reader.
 template <class type>
 concept readable = requires(type value) {
@@ -24,3 +26,7 @@ QString dump(const type& read)
 {
     return dump(read.plot_mode, read.wel_title, read.kennlinien_list, read.series);
 }
+
+/// Lets `document` read the file and answers its dump, then the debug lines that reading logged,
+/// each with "log " in front.
+QString read_and_dump(korimo_plot& document, const QString& path);

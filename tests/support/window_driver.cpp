@@ -1,6 +1,7 @@
 #include "tests/support/window_driver.h"
 
-#include <QFile>
+#include "tests/support/write_file.h"
+
 #include <QListWidget>
 #include <QPushButton>
 #include <QTest>
@@ -21,9 +22,7 @@ window_driver::window_driver()
 QString window_driver::add(const QString& name, const QByteArray& text)
 {
     const QString path = folder.filePath(name);
-    QFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(text) != text.size())
-        qFatal("cannot write a temporary file");
+    write_file(path, text);
     list->addItem(path);
     return path;
 }

@@ -1,5 +1,4 @@
 #include "tests/support/document_dump.h"
-#include "tests/support/log_capture.h"
 #include "tests/support/modal_boxes.h"
 #include "tests/support/plot_pair.h"
 #include "tests/support/sample_files.h"
@@ -12,20 +11,6 @@
 #ifdef Q_OS_UNIX
 #include <sys/stat.h>
 #endif
-
-namespace {
-
-QString read_and_dump(korimo_plot& document, const QString& path)
-{
-    const log_capture log;
-    document.readFile(path);
-    QString text = dump(document);
-    for (const QString& line : log_capture::debug_lines())
-        text += "log " + line + "\n";
-    return text;
-}
-
-} // namespace
 
 class tst_wel_reader : public QObject
 {
