@@ -100,9 +100,12 @@ void MainWindow::on_action_schliessen_triggered()
     close();
 }
 
-// Deliberate: icon and buttons of the box are not set; it shows those of its last use.
-void MainWindow::show_selection_error()
+// Deliberate: the icon of the box is never set here, and its buttons are not always; it shows those
+// of its last use.
+void MainWindow::show_selection_error(box_buttons buttons)
 {
+    if (buttons == box_buttons::ok_only)
+        message_box.setStandardButtons(QMessageBox::Ok);
     message_box.setDetailedText(QString());
     message_box.setWindowTitle(QStringLiteral("Error"));
     message_box.setWindowIcon(QIcon(QStringLiteral(":/icons/look_and_feel/orvan.ico")));

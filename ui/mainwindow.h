@@ -35,7 +35,10 @@ public slots:
     void selectFiles();
     /// Plots or reads the selected file, or clears the plots, as the button's text says.
     void buttonClicked();
+    /// Plots the curve whose name is selected in the right-hand list.
     void plotDKl_Clicked();
+    /// These four make a name of the right-hand list current and plot its curve: the first, the one
+    /// before, the next, the last. Before the first and behind the last nothing happens.
     void back_to_start_clicked();
     void back_one_clicked();
     void forward_one_clicked();
@@ -71,11 +74,18 @@ private:
 
     void add_file(const QString& path);
 
-    void show_selection_error();
+    enum class box_buttons
+    {
+        kept, // those of the box's last use
+        ok_only,
+    };
+    void show_selection_error(box_buttons buttons);
     void replace_document();
     void destroy_document();
     void plot_hydrographs();
     void list_names(const QString& path);
+    void read_selected_name();
+    void plot_name_in_row(int row);
     void remember_fixed_ranges();
     void forget_fixed_ranges();
     enum class redraw

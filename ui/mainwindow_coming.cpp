@@ -1,13 +1,7 @@
 #include "ui/mainwindow.h"
 
-// Commands that stand in the menus, in the tool bar and beside the right-hand list, but do nothing
-// yet.
+// Commands that stand in the menus and in the tool bar, but do nothing yet.
 
-void MainWindow::plotDKl_Clicked() {}
-void MainWindow::back_to_start_clicked() {}
-void MainWindow::back_one_clicked() {}
-void MainWindow::forward_one_clicked() {}
-void MainWindow::forward_to_end_clicked() {}
 void MainWindow::on_action_speicher_triggered() {}
 void MainWindow::on_action_Orvan_Information_triggered() {}
 void MainWindow::on_action_Qt_Licensing_Information_triggered() {}

@@ -71,7 +71,7 @@ void MainWindow::remove_file_clicked()
         return;
     const QList<QListWidgetItem*> selected = ui->listWidget->selectedItems();
     if (selected.size() != 1) {
-        show_selection_error();
+        show_selection_error(box_buttons::kept);
         return;
     }
     const int row = ui->listWidget->row(selected.first());

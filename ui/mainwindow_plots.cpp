@@ -46,8 +46,7 @@ void MainWindow::buttonClicked()
     }
     const QList<QListWidgetItem*> selected = ui->listWidget->selectedItems();
     if (selected.size() != 1) {
-        message_box.setStandardButtons(QMessageBox::Ok);
-        show_selection_error();
+        show_selection_error(box_buttons::ok_only);
         return;
     }
     const QString path = selected.first()->text();

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QStringView>
+#include <QtTypes>
 
 /// A field of a fixed-column line: characters `position` to `position + length - 1`, counted from
 /// 0.
@@ -20,7 +20,8 @@ inline constexpr text_field bek_spillway{50, 6};    ///< m³/s, may be blank
 inline constexpr text_field bek_volume{56, 7};      ///< thousands of m³
 
 /// The text of a field of `line`. A field is shortened by the end of the line and empty behind it.
-inline QStringView field(QStringView line, const text_field& where)
+template <class text_view>
+text_view field(text_view line, const text_field& where)
 {
     return line.mid(where.position, where.length);
 }

@@ -1,6 +1,8 @@
 #include "plot/reading/dkl_reader.h"
 
 #include "plot/reading/dkl_lines.h"
+#include "plot/reading/line_text.h"
+#include "plot/reading/number.h"
 #include "plot/reading/text_lines.h"
 #include "plot/reading/tokens.h"
 
@@ -9,25 +11,52 @@
 
 namespace {
 
-// A header names the curve by the first and the third part of its listed name. A name with fewer
-// parts has no header.
-bool is_header_of(const QString& line, const QStringList& name_parts)
+// The parts of a curve's name that its header holds. A name with fewer than three parts has no
+// header.
+struct header_parts
 {
-    return name_parts.size() >= 3 && !line.contains(u"Wo") && line.contains(name_parts[0]) &&
-           line.contains(name_parts[2]);
+    explicit header_parts(const QString& item)
+    {
+        const QStringList parts = item.split(u'_', Qt::SkipEmptyParts);
+        known = parts.size() >= 3;
+        first = parts.value(0);
+        third = parts.value(2);
+    }
+
+    bool known = false;
+    QString first;
+    QString third;
+};
+
+bool is_header_of(QByteArrayView line, const header_parts& parts)
+{
+    return parts.known && !line.contains("Wo") && with_text_of(line, [&](auto text) {
+               return text.contains(parts.first) && text.contains(parts.third);
+           });
+}
+
+// The number of points that a line announces, or 0 where it does not. Nearly all lines are points,
+// with a "." that no whole number has.
+int point_count_in(QByteArrayView line)
+{
+    return line.contains('.') ? 0 : decoded(line).toInt();
 }
 
 // Appends the point of a data line. A point with a 0 is taken for text that is no number, and
 // dropped, unless the second field shows by "E+00" that a number was written: then the discharge is
 // 0, whatever stands before the exponent. That is deliberately lopsided.
-void append_point(const QString& line, series_store& series)
+void append_point(QByteArrayView line, series_store& series)
 {
-    const QStringList fields = tokens_of(line);
-    const double level = fields.value(0).toDouble();
-    const double discharge = fields.value(1).toDouble();
+    token_cursor cursor(line);
+    QByteArrayView first;
+    QByteArrayView second;
+    cursor.next(first);
+    cursor.next(second);
+    const double level = value_of(first);
+    const double discharge = value_of(second);
     const bool has_zero = level == 0.0 || discharge == 0.0;
-    if (has_zero && !fields.value(1).contains(u"E+00")) {
-        qWarning() << "dkl data line could not be converted: " << line;
+    if (has_zero && !second.contains("E+00")) {
+        qWarning() << "dkl data line could not be converted: " << decoded(line);
         return;
     }
     series[1].append(level);
@@ -38,20 +67,19 @@ void append_point(const QString& line, series_store& series)
 
 void read_dkl(text_lines& lines, const QString& item, QString& title, series_store& series)
 {
-    const QStringList name_parts = item.split(u'_', Qt::SkipEmptyParts);
+    const header_parts parts(item);
     int points_read = 0; // not reset by a second header: a repeated curve adds only what is missing
     int points_expected = 0;
     bool found = false;
     bool in_block = false;
-    QByteArrayView bytes;
-    while (lines.next(bytes)) {
-        const QString line = decoded(bytes);
+    QByteArrayView line;
+    while (lines.next(line)) {
         if (is_dkl_heading(line))
             continue;
-        if (is_header_of(line, name_parts)) {
+        if (is_header_of(line, parts)) {
             title = item;
             found = true;
-        } else if (const int count = line.toInt(); count != 0) {
+        } else if (const int count = point_count_in(line); count != 0) {
             points_expected = found ? count : points_expected;
             in_block = in_block || found;
         } else if (found && in_block && points_expected > points_read) {

@@ -3,6 +3,7 @@
 #include "plot/reading/bek_fields.h"
 #include "plot/reading/debug_log.h"
 #include "plot/reading/dkl_lines.h"
+#include "plot/reading/line_text.h"
 #include "plot/reading/text_lines.h"
 #include "plot/reading/tokens.h"
 
@@ -13,16 +14,17 @@ namespace {
 // Words of a header line that are no part of the curve's name.
 constexpr QStringView filler_words[] = {u"GOK", u"=", u"GW", u"müNHN"};
 
-bool names_a_basin(const QString& line)
+template <class text_view>
+bool names_a_basin(text_view line)
 {
-    const QStringView letter = field(line, bek_first_letter);
+    const text_view letter = field(line, bek_first_letter);
     return letter.compare(u"B", Qt::CaseInsensitive) == 0 &&
            field(line, bek_heading_word) != u"Bez" && !field(line, bek_values).trimmed().isEmpty();
 }
 
-bool names_a_curve(const QString& line)
+bool names_a_curve(QByteArrayView line)
 {
-    return !is_dkl_heading(line) && line.contains(u"km");
+    return !is_dkl_heading(line) && line.contains("km");
 }
 
 QStringList header_words(const QString& line)
@@ -40,9 +42,10 @@ QStringList list_bek_names(text_lines& lines)
     QStringList names;
     QByteArrayView bytes;
     while (lines.next(bytes)) {
-        const QString line = decoded(bytes);
-        if (names_a_basin(line))
-            names.append(field(line, bek_identifier).toString());
+        with_text_of(bytes, [&](auto line) {
+            if (names_a_basin(line))
+                names.append(field(line, bek_identifier).toString());
+        });
     }
     return names;
 }
@@ -52,9 +55,9 @@ QStringList list_dkl_names(text_lines& lines)
     QStringList names;
     QByteArrayView bytes;
     while (lines.next(bytes)) {
-        const QString line = decoded(bytes);
-        if (!names_a_curve(line))
+        if (!names_a_curve(bytes))
             continue;
+        const QString line = decoded(bytes);
         const QStringList words = header_words(line);
         if (words.size() >= 4)
             names.append(words[3] + u'_' + words[0] + u'_' + words[1]);

@@ -22,23 +22,52 @@ bool starts_plainly(QByteArrayView token)
     return token.size() > sign && is_digit(token[sign]);
 }
 
-std::optional<double> by_qt(QByteArrayView token)
+// Whether all of `token` is a plain number.
+bool read_plainly(QByteArrayView token, double& value)
 {
-    bool ok = false;
-    const double value = decoded(token).toDouble(&ok);
-    return ok ? std::optional(value) : std::nullopt;
+    if (!starts_plainly(token))
+        return false;
+    const char* const end = token.data() + token.size();
+    const auto [rest, error] = std::from_chars(token.data(), end, value);
+    return error == std::errc() && rest == end;
+}
+
+QByteArrayView without_blanks_around(QByteArrayView text)
+{
+    while (text.startsWith(' '))
+        text = text.sliced(1);
+    while (text.endsWith(' '))
+        text.chop(1);
+    return text;
 }
 
 } // namespace
 
 std::optional<double> number_in(QByteArrayView token)
 {
-    if (!starts_plainly(token))
-        return by_qt(token);
     double value = 0.0;
-    const char* const end = token.data() + token.size();
-    const auto [rest, error] = std::from_chars(token.data(), end, value);
-    if (error == std::errc() && rest == end)
+    if (read_plainly(token, value))
         return value;
-    return by_qt(token);
+    bool ok = false;
+    value = decoded(token).toDouble(&ok);
+    return ok ? std::optional(value) : std::nullopt;
+}
+
+double value_of(QByteArrayView text)
+{
+    text = without_blanks_around(text);
+    double value = 0.0;
+    if (text.isEmpty() || read_plainly(text, value))
+        return value;
+    return decoded(text).toDouble();
+}
+
+double value_of(QLatin1StringView text)
+{
+    return value_of(QByteArrayView(text.data(), text.size()));
+}
+
+double value_of(QStringView text)
+{
+    return text.toDouble();
 }

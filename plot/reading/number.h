@@ -1,6 +1,8 @@
 #pragma once
 
 #include <QByteArrayView>
+#include <QLatin1StringView>
+#include <QStringView>
 
 #include <optional>
 
@@ -11,3 +13,9 @@
 /// separator. An exponent may be written "e" or "E". A value too large or too small for a double is
 /// no number.
 std::optional<double> number_in(QByteArrayView token);
+
+/// What `QString::toDouble` answers for `text`: the number written there, blanks around it allowed;
+/// 0 where there is none, infinity where it is too large.
+double value_of(QByteArrayView text);
+double value_of(QLatin1StringView text);
+double value_of(QStringView text);

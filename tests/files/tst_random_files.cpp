@@ -1,155 +1,65 @@
 #include "plot/korimo_plot.h"
 #include "tests/support/document_dump.h"
-#include "tests/support/literal_reader.h"
+#include "tests/support/literal_curve_reader.h"
 #include "tests/support/log_capture.h"
 #include "tests/support/plot_pair.h"
+#include "tests/support/random_choice.h"
+#include "tests/support/random_files.h"
 #include "tests/support/write_file.h"
 
-#include <QRandomGenerator>
 #include <QTemporaryDir>
 #include <QTest>
-
-namespace {
-
-using namespace Qt::StringLiterals;
-
-template <class list>
-const auto& any_of(const list& values, QRandomGenerator& random)
-{
-    return values[random.bounded(values.size())];
-}
-
-QByteArray number(QRandomGenerator& random)
-{
-    static const QByteArrayList odd = {"0",
-                                       "-0",
-                                       "+1",
-                                       "1.",
-                                       ".5",
-                                       "1e5",
-                                       "1E5",
-                                       "1.0E+00",
-                                       "1e-400",
-                                       "1e400",
-                                       "inf",
-                                       "-INF",
-                                       "nan",
-                                       "1,5",
-                                       "1e",
-                                       "0x10",
-                                       "12.5.",
-                                       "--1",
-                                       "1_0",
-                                       "\t7",
-                                       "7\t8",
-                                       "\xC2\xA0"
-                                       "3",
-                                       "4\xC2\xA0",
-                                       "\xEF\xBC\x91",
-                                       "5\xFF",
-                                       "\xEF\xBB\xBF"
-                                       "6",
-                                       "9\xC3",
-                                       QByteArray("1\0", 2),
-                                       QByteArray("\0", 1),
-                                       "123456789012345678901234567890",
-                                       "0.1000000000000000055511151231257827",
-                                       "4.9e-324",
-                                       "2.2250738585072011e-308",
-                                       "1\r2"};
-    if (random.bounded(12) == 0)
-        return any_of(odd, random);
-    const double value = random.bounded(2000.0) - 200.0;
-    return QByteArray::number(value, "fge"[random.bounded(3)], random.bounded(0, 9));
-}
-
-QByteArray line_end(QRandomGenerator& random)
-{
-    static const QByteArrayList ends = {"\n", "\n", "\n", "\r\n", "\r\n", "\r\r\n", "\n\n"};
-    return any_of(ends, random);
-}
-
-QByteArray number_row(QRandomGenerator& random)
-{
-    QByteArray row;
-    // Rows of the length of a kind are the rule, over-long ones the exception that ends the file.
-    static const QList<int> lengths = {0, 1, 2, 2, 2, 3, 3, 4, 4, 7, 7, 8, 9, 9, 10, 10, 11, 12};
-    for (int n = any_of(lengths, random); n > 0; --n)
-        row += QByteArray(random.bounded(1, 4), ' ') + number(random);
-    if (random.bounded(4) == 0)
-        row += "  ";
-    return row;
-}
-
-QByteArray wel_line(QRandomGenerator& random)
-{
-    static const QByteArrayList texts = {"Ganglinien Pegel P",
-                                         "  Ganglinien \xC3\x9C",
-                                         "\xEF\xBB\xBF"
-                                         "Ganglinien",
-                                         "ganglinien klein",
-                                         "Ganglinien\xFF",
-                                         "Gang\rlinien Titel",
-                                         "Zeit [h]  Q [m3/s]",
-                                         "   ",
-                                         "",
-                                         "0.0 Ganglinien 1.0",
-                                         "\t",
-                                         "1.0\t2.0"};
-    return random.bounded(6) == 0 ? any_of(texts, random) : number_row(random);
-}
-
-QByteArray bek_line(QRandomGenerator& random)
-{
-    static const QByteArrayList starts = {"   B1   ", "   b2   ", "   BBez ", "   B\xC3\xBC  ",
-                                          "   X",     "        ", "B",        "   BB1B2"};
-    QByteArray line = any_of(starts, random);
-    while (line.size() < 70 && random.bounded(40) != 0)
-        line += random.bounded(3) == 0 ? QByteArray::number(random.bounded(100)) : " ";
-    return line;
-}
-
-QByteArray dkl_line(QRandomGenerator& random)
-{
-    static const QByteArrayList words = {
-        "km", "1.2", "GOK",  "=",  "GW",       "m\xC3\xBCNHN", "Wo", "Wo>",
-        "Qd", "Sp",  "GOK=", "\t", "m\xFCNHN", "km=3",         "12", "Auslass"};
-    QByteArray line;
-    for (int n = random.bounded(0, 9); n > 0; --n)
-        line += any_of(words, random) + QByteArray(random.bounded(1, 3), ' ');
-    return line;
-}
-
-QByteArray random_file(const QString& name, QRandomGenerator& random)
-{
-    QByteArray bytes;
-    if (random.bounded(20) == 0)
-        bytes += "\xEF\xBB\xBF";
-    for (int n = random.bounded(0, 14); n > 0; --n) {
-        bytes += name.endsWith("bek", Qt::CaseInsensitive)   ? bek_line(random)
-                 : name.endsWith("dkl", Qt::CaseInsensitive) ? dkl_line(random)
-                                                             : wel_line(random);
-        bytes += line_end(random);
-    }
-    if (random.bounded(3) == 0)
-        bytes.chop(1);
-    if (random.bounded(25) == 0)
-        bytes.truncate(random.bounded(bytes.size() + 1));
-    return bytes;
-}
-
-} // namespace
 
 class tst_random_files : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void as_the_literal_reader_data();
-    void as_the_literal_reader();
+    void files_data();
+    void files();
+    void basins();
+    void throttles();
 };
 
-void tst_random_files::as_the_literal_reader_data()
+namespace {
+
+constexpr int file_count = 500;
+
+// One file after the other, made from a seed of their name, and both plots for the documents.
+struct random_road
+{
+    explicit random_road(const QString& name)
+        : name(name)
+        , random(qChecksum(name.toUtf8()))
+    {
+    }
+
+    void next()
+    {
+        bytes = random_file(name, random);
+        write_file(path, bytes);
+    }
+
+    QByteArray shown() const { return bytes.toPercentEncoding(" "); }
+
+    QString name;
+    QRandomGenerator random;
+    QTemporaryDir folder;
+    QString path = folder.filePath(name);
+    QByteArray bytes;
+    plot_pair plots;
+};
+
+// A name to read from a file: mostly one that it lists, at times one that it does not.
+QString name_to_read(const QString& path, const QStringList& others, QRandomGenerator& random)
+{
+    const QStringList listed = read_literally(path).kennlinien_list;
+    return listed.isEmpty() || once_in(4, random) ? any_of(others, random) : any_of(listed, random);
+}
+
+} // namespace
+
+void tst_random_files::files_data()
 {
     QTest::addColumn<QString>("name");
     for (const char* name : {"x_B1.wel", "x_K1.wel", "x_N1.WEL", "x_V1.Wel", "x_T1.wel", "x_E1.wel",
@@ -157,24 +67,65 @@ void tst_random_files::as_the_literal_reader_data()
         QTest::newRow(name) << QString(name);
 }
 
-void tst_random_files::as_the_literal_reader()
+void tst_random_files::files()
 {
     QFETCH(QString, name);
-    constexpr int files = 500;
-    QRandomGenerator random(qChecksum(name.toUtf8()));
-    const QTemporaryDir folder;
-    const QString path = folder.filePath(name);
-    const plot_pair plots;
-    for (int i = 0; i < files; ++i) {
-        const QByteArray bytes = random_file(name, random);
-        write_file(path, bytes);
-        const literal_reading expected = read_literally(path);
-        korimo_plot document(plots.lower.get(), plots.upper.get());
+    random_road road(name);
+    for (int i = 0; i < file_count; ++i) {
+        road.next();
+        const literal_reading expected = read_literally(road.path);
+        korimo_plot document(road.plots.lower.get(), road.plots.upper.get());
         const log_capture log;
-        document.readFile(path);
-        QVERIFY2(log.debug_lines() == expected.log, bytes.toPercentEncoding(" ").constData());
-        QVERIFY2(dump(document) == dump(expected), bytes.toPercentEncoding(" ").constData());
+        document.readFile(road.path);
+        QVERIFY2(log.debug_lines() == expected.log, road.shown().constData());
+        QVERIFY2(dump(document) == dump(expected), road.shown().constData());
     }
+}
+
+void tst_random_files::basins()
+{
+    random_road road("basins.bek");
+    const QStringList others{"B1   ", "B2   ", "B9   ", "B\u00fc   ", "B1", "1"};
+    qsizetype rows = 0;
+    for (int i = 0; i < 10 * file_count; ++i) {
+        road.next();
+        const QString item = name_to_read(road.path, others, road.random);
+        const literal_reading expected = read_bek_literally(road.path, item);
+        rows += expected.series[1].size();
+        korimo_plot document(road.plots.lower.get(), road.plots.upper.get());
+        document.read_BEK(road.path, item);
+        QVERIFY2(dump(document) == dump(expected), road.shown() + " item " + item.toUtf8());
+    }
+    QVERIFY(rows > 10 * file_count);
+}
+
+void tst_random_files::throttles()
+{
+    random_road road("throttles.dkl");
+    const QStringList others{"Sp_1_Auslass",
+                             "Sp_2_Auslass_km",
+                             "Sp__1__Auslass",
+                             "6.480_1_Auslass",
+                             "Sp_1",
+                             "Auslass_km_Sp",
+                             "_",
+                             "Sp_3_\u00dcberlauf"};
+    qsizetype points = 0;
+    qsizetype warnings = 0;
+    for (int i = 0; i < 10 * file_count; ++i) {
+        road.next();
+        const QString item = name_to_read(road.path, others, road.random);
+        const literal_reading expected = read_dkl_literally(road.path, item);
+        points += expected.series[1].size();
+        warnings += expected.log.size();
+        korimo_plot document(road.plots.lower.get(), road.plots.upper.get());
+        const log_capture log;
+        document.read_DKL(road.path, item);
+        QVERIFY2(log.warning_lines() == expected.log, road.shown() + " item " + item.toUtf8());
+        QVERIFY2(dump(document) == dump(expected), road.shown() + " item " + item.toUtf8());
+    }
+    QVERIFY(points > 10 * file_count);
+    QVERIFY(warnings > file_count);
 }
 
 QTEST_MAIN(tst_random_files)
