@@ -4,6 +4,13 @@
 #include <QIcon>
 #include <QTest>
 
+bool is_selection_error(const shown_box& box)
+{
+    return box.title == "Error" && box.text == "Pleae select one file" &&
+           box.detailed_text.isEmpty() && box.buttons == QMessageBox::Ok &&
+           box.icon == QMessageBox::NoIcon && box.has_window_icon && box.was_modal;
+}
+
 modal_boxes::modal_boxes()
 {
     QObject::connect(&watch, &QTimer::timeout, &watch, [this] { answer(); });

@@ -16,6 +16,9 @@ struct shown_box
     bool was_modal = false;
 };
 
+/// Whether a box is the one that asks for a selection, with "Ok" as its only button.
+bool is_selection_error(const shown_box& box);
+
 /// Notes every modal message box that comes up while it lives, and closes it as a user does: with
 /// the Enter key.
 class modal_boxes

@@ -8,11 +8,22 @@
 
 #include <qwt_plot.h>
 
+namespace {
+
+void click_row(QListWidget& list, int row)
+{
+    const QPoint middle = list.visualItemRect(list.item(row)).center();
+    QTest::mouseClick(list.viewport(), Qt::LeftButton, Qt::NoModifier, middle);
+}
+
+} // namespace
+
 window_driver::window_driver()
     : list(window.findChild<QListWidget*>("listWidget"))
     , names(window.findChild<QListWidget*>("listWidget_2"))
     , button(window.findChild<QPushButton*>("pushButton"))
     , remove(window.findChild<QPushButton*>("pushButton_3"))
+    , plot_name(window.findChild<QPushButton*>("pushButton_2"))
     , lower(window.findChild<QwtPlot*>("qwtPlot"))
     , upper(window.findChild<QwtPlot*>("qwtPlot_2"))
 {
@@ -29,8 +40,20 @@ QString window_driver::add(const QString& name, const QByteArray& text)
 
 void window_driver::select(int row) const
 {
-    const QPoint middle = list->visualItemRect(list->item(row)).center();
-    QTest::mouseClick(list->viewport(), Qt::LeftButton, Qt::NoModifier, middle);
+    click_row(*list, row);
+}
+
+void window_driver::pick(int row) const
+{
+    click_row(*names, row);
+}
+
+QString window_driver::open(const QString& name, const QByteArray& text)
+{
+    const QString path = add(name, text);
+    select(list->count() - 1);
+    press(button);
+    return path;
 }
 
 void window_driver::press(QPushButton* which) const

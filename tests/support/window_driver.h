@@ -17,15 +17,20 @@ struct window_driver
     QString add(const QString& name, const QByteArray& text);
     /// Clicks on a row of the file list.
     void select(int row) const;
+    /// Clicks on a row of the right-hand list.
+    void pick(int row) const;
     void press(QPushButton* which) const;
+    /// Adds a file, selects it, and presses "Plot" or "Read".
+    QString open(const QString& name, const QByteArray& text);
     QStringList files() const;
 
     QTemporaryDir folder;
     MainWindow window;
     QListWidget* list;
     QListWidget* names;
-    QPushButton* button;
+    QPushButton* button; ///< "Plot", "Read" or "Clear"
     QPushButton* remove;
+    QPushButton* plot_name;
     QwtPlot* lower;
     QwtPlot* upper;
 };
