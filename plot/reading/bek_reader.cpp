@@ -43,11 +43,11 @@ void append_row(text_view line, series_store& series)
 
 // Takes the next line and answers whether the block of the basin is open after it.
 template <class text_view>
-bool take_line(text_view line, QStringView item, bool in_block, series_store& series)
+bool take_line(text_view line, const searched_text& item, bool in_block, series_store& series)
 {
     const text_view identifier = field(line, bek_identifier);
     const bool continues = identifier == u"     ";
-    const bool is_wanted = identifier.contains(item);
+    const bool is_wanted = item.is_in(identifier);
     // A line that repeats the identifier inside its block is not read, but keeps the block open.
     if (in_block ? continues : is_wanted)
         append_row(line, series);
@@ -58,10 +58,11 @@ bool take_line(text_view line, QStringView item, bool in_block, series_store& se
 
 void read_bek(text_lines& lines, QStringView item, series_store& series)
 {
+    const searched_text basin(item);
     bool in_block = false;
     QByteArrayView bytes;
     while (lines.next(bytes)) {
-        in_block =
-            with_text_of(bytes, [&](auto line) { return take_line(line, item, in_block, series); });
+        in_block = with_text_of(
+            bytes, [&](auto line) { return take_line(line, basin, in_block, series); });
     }
 }

@@ -11,35 +11,36 @@
 
 namespace {
 
-// The parts of a curve's name that its header holds. A name with fewer than three parts has no
-// header.
-struct header_parts
+// A header names the curve by the first and the third part of its listed name. A name with fewer
+// parts has no header.
+class header_test
 {
-    explicit header_parts(const QString& item)
+public:
+    explicit header_test(const QStringList& name_parts)
+        : possible(name_parts.size() >= 3)
+        , first(name_parts.value(0))
+        , third(name_parts.value(2))
     {
-        const QStringList parts = item.split(u'_', Qt::SkipEmptyParts);
-        known = parts.size() >= 3;
-        first = parts.value(0);
-        third = parts.value(2);
     }
 
-    bool known = false;
-    QString first;
-    QString third;
-};
+    bool passes(QByteArrayView line) const
+    {
+        return possible && !has(line, "Wo") && with_text_of(line, [&](auto text) {
+                   return third.is_in(text) && first.is_in(text);
+               });
+    }
 
-bool is_header_of(QByteArrayView line, const header_parts& parts)
-{
-    return parts.known && !line.contains("Wo") && with_text_of(line, [&](auto text) {
-               return text.contains(parts.first) && text.contains(parts.third);
-           });
-}
+private:
+    bool possible;
+    searched_text first;
+    searched_text third;
+};
 
 // The number of points that a line announces, or 0 where it does not. Nearly all lines are points,
 // with a "." that no whole number has.
 int point_count_in(QByteArrayView line)
 {
-    return line.contains('.') ? 0 : decoded(line).toInt();
+    return has(line, ".") ? 0 : decoded(line).toInt();
 }
 
 // Appends the point of a data line. A point with a 0 is taken for text that is no number, and
@@ -67,7 +68,7 @@ void append_point(QByteArrayView line, series_store& series)
 
 void read_dkl(text_lines& lines, const QString& item, QString& title, series_store& series)
 {
-    const header_parts parts(item);
+    const header_test is_header(item.split(u'_', Qt::SkipEmptyParts));
     int points_read = 0; // not reset by a second header: a repeated curve adds only what is missing
     int points_expected = 0;
     bool found = false;
@@ -76,7 +77,7 @@ void read_dkl(text_lines& lines, const QString& item, QString& title, series_sto
     while (lines.next(line)) {
         if (is_dkl_heading(line))
             continue;
-        if (is_header_of(line, parts)) {
+        if (is_header.passes(line)) {
             title = item;
             found = true;
         } else if (const int count = point_count_in(line); count != 0) {

@@ -7,6 +7,16 @@
 #include <QString>
 #include <QStringView>
 
+#include <string>
+#include <string_view>
+
+/// Whether `text` stands somewhere in `bytes`. For lines, this is much faster than Qt's search.
+inline bool has(QByteArrayView bytes, std::string_view text)
+{
+    return std::string_view(bytes.data(), static_cast<std::size_t>(bytes.size())).find(text) !=
+           std::string_view::npos;
+}
+
 /// Whether all bytes are ASCII, so that each is a character by itself.
 inline bool is_ascii(QByteArrayView bytes)
 {
@@ -27,3 +37,25 @@ auto with_text_of(QByteArrayView line, const function& use)
     const QString text = decoded(line);
     return use(QStringView(text));
 }
+
+/// A text that is looked for in many lines.
+class searched_text
+{
+public:
+    explicit searched_text(QStringView text)
+        : text(text.toString())
+        , utf8(text.toUtf8().toStdString())
+    {
+    }
+
+    /// Whether it stands somewhere in `line`, as with_text_of gives it. The case matters.
+    bool is_in(QLatin1StringView line) const
+    {
+        return has(QByteArrayView(line.data(), line.size()), utf8);
+    }
+    bool is_in(QStringView line) const { return line.contains(text); }
+
+private:
+    QString text;
+    std::string utf8; // where the line is ASCII: what is not ASCII here, is not there
+};

@@ -18,13 +18,13 @@ template <class text_view>
 bool names_a_basin(text_view line)
 {
     const text_view letter = field(line, bek_first_letter);
-    return letter.compare(u"B", Qt::CaseInsensitive) == 0 &&
-           field(line, bek_heading_word) != u"Bez" && !field(line, bek_values).trimmed().isEmpty();
+    return (letter == u"B" || letter == u"b") && field(line, bek_heading_word) != u"Bez" &&
+           !field(line, bek_values).trimmed().isEmpty();
 }
 
 bool names_a_curve(QByteArrayView line)
 {
-    return !is_dkl_heading(line) && line.contains("km");
+    return !is_dkl_heading(line) && has(line, "km");
 }
 
 QStringList header_words(const QString& line)

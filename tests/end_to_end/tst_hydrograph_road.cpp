@@ -1,7 +1,6 @@
 #include "tests/end_to_end/desktop.h"
-#include "tests/end_to_end/viewer.h"
+#include "tests/end_to_end/road.h"
 
-#include <QApplication>
 #include <QDir>
 #include <QDrag>
 #include <QMimeData>
@@ -10,14 +9,7 @@
 #include <QUrl>
 #include <QWidget>
 
-#include <memory>
-
 namespace {
-
-const QColor blue(Qt::blue);
-const QColor green(Qt::green);
-const QColor red(Qt::red);
-const QRect first_file_row(place::files.left() + 2, place::files.top() + 2, 300, 16);
 
 // A window of another program (this one) from which files are dragged. It proposes to move them, as
 // some file managers do.
@@ -74,85 +66,19 @@ void drag_to(const QWidget& source, const QPoint& target)
 
 } // namespace
 
-class tst_hydrograph_road : public QObject
+class tst_hydrograph_road : public road
 {
     Q_OBJECT
 
 private slots:
-    void initTestCase();
-    void init();
-    void cleanup();
-    void cleanupTestCase();
-
     void file_dialog_by_typing();
     void file_dialog_by_clicking();
     void drop_from_another_program();
     void plot_zoom_pan_and_clear();
     void change_of_file_and_removal();
-    void two_steps_of_a_basin_table();
     void message_without_selection();
     void closing_from_the_menu();
-
-private:
-    void add_by_typing(const QStringList& names);
-    void select_row(int row) const;
-
-    desktop screen;
-    std::unique_ptr<QApplication> application;
-    std::unique_ptr<viewer> program;
 };
-
-void tst_hydrograph_road::initTestCase()
-{
-    QVERIFY2(screen.is_ready(), "Xvfb and openbox are needed");
-    QVERIFY2(!xdotool({"version"}).isEmpty(), "xdotool is needed");
-    static int count = 1;
-    static char name[] = "tst_hydrograph_road";
-    static char* arguments[] = {name, nullptr};
-    qputenv("QT_QPA_PLATFORM", "xcb");
-    application = std::make_unique<QApplication>(count, arguments);
-}
-
-void tst_hydrograph_road::init()
-{
-    program = std::make_unique<viewer>();
-    QVERIFY(program->is_shown());
-}
-
-// A step that failed leaves what was on the screen behind.
-void tst_hydrograph_road::cleanup()
-{
-    const bool wanted =
-        QTest::currentTestFailed() || qEnvironmentVariableIsSet("KORIMO_SCREENSHOTS");
-    if (wanted)
-        screenshot().save(QString("screenshot_%1.png").arg(QTest::currentTestFunction()));
-    program.reset();
-}
-
-void tst_hydrograph_road::cleanupTestCase()
-{
-    application.reset();
-}
-
-void tst_hydrograph_road::add_by_typing(const QStringList& names)
-{
-    QString text;
-    for (const QString& name : names) {
-        QVERIFY(program->bring(name));
-        text += "\"" + name + "\" ";
-    }
-    program->choose_file_entry(0);
-    QVERIFY(viewer::sees_window("Auswahl der Datei zum Plotten"));
-    QTest::qWait(500);
-    program->type(text.trimmed());
-    program->key("Return");
-    QTRY_VERIFY(program->sees(first_file_row, Qt::black) > 20);
-}
-
-void tst_hydrograph_road::select_row(int row) const
-{
-    program->click(place::files.topLeft() + QPoint(100, 9 + 16 * row));
-}
 
 void tst_hydrograph_road::file_dialog_by_typing()
 {
@@ -231,8 +157,7 @@ void tst_hydrograph_road::plot_zoom_pan_and_clear()
     QTRY_VERIFY(program->sees(place::upper_plot, red) > 50);
     const QImage drawn = program->look(place::lower_plot);
     const QImage upper = program->look(place::upper_plot);
-    if (qEnvironmentVariableIsSet("KORIMO_SCREENSHOTS"))
-        screenshot().save("screenshot_plot.png");
+    keep_screenshot("plot");
 
     // The left axes stand in the first 60 pixels of the plots, the bottom axes below the canvas.
     const QRect left_axis(0, 30, 85, 280);
@@ -289,25 +214,12 @@ void tst_hydrograph_road::change_of_file_and_removal()
     QCOMPARE(pixels_of(empty_list, empty_list.rect(), Qt::white), 300 * 16);
 }
 
-void tst_hydrograph_road::two_steps_of_a_basin_table()
-{
-    add_by_typing({"Erlenbach.bek"});
-    select_row(0);
-    QTRY_COMPARE(program->sees(place::names, Qt::black), 0);
-    program->click(place::plot_button.center());
-    QTRY_VERIFY(program->sees(place::names, Qt::black) > 20);
-    QTRY_COMPARE(program->sees(place::lower_plot, blue), 0);
-    program->click(place::plot_button.center());
-    QTRY_COMPARE(program->sees(place::names, Qt::black), 0);
-}
-
 void tst_hydrograph_road::message_without_selection()
 {
     program->click(place::plot_button.center());
     QVERIFY(viewer::sees_window("Error"));
     program->key("Return");
-    QVERIFY(QTest::qWaitFor(
-        [] { return xdotool({"search", "--onlyvisible", "--name", "^Error$"}).isEmpty(); }));
+    QVERIFY(viewer::sees_no_window("^Error$"));
 }
 
 void tst_hydrograph_road::closing_from_the_menu()

@@ -145,6 +145,11 @@ bool viewer::sees_window(const QString& title)
     return QTest::qWaitFor([&] { return !visible_windows(title).isEmpty(); }, 10 * seconds);
 }
 
+bool viewer::sees_no_window(const QString& title)
+{
+    return QTest::qWaitFor([&] { return visible_windows(title).isEmpty(); }, 10 * seconds);
+}
+
 QImage viewer::look(const QRect& area) const
 {
     return screenshot().copy(area.translated(origin));

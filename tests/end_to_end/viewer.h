@@ -32,6 +32,8 @@ public:
     void choose_file_entry(int entry) const;
     /// Waits until a window of the program has this title.
     static bool sees_window(const QString& title);
+    /// Waits until no window has this title.
+    static bool sees_no_window(const QString& title);
 
     QPoint on_screen(const QPoint& place) const { return origin + place; }
     /// What the window shows of an area.
@@ -59,5 +61,10 @@ inline constexpr QRect names{725, 51, 191, 591};
 inline constexpr QRect files{80, 660, 541, 121};
 inline constexpr QRect plot_button{630, 710, 81, 23};
 inline constexpr QRect remove_button{630, 740, 81, 23};
+inline constexpr QRect name_button{730, 710, 181, 23};
+inline constexpr QRect to_start_button{730, 650, 21, 21};
+inline constexpr QRect back_button{750, 650, 21, 21};
+inline constexpr QRect forward_button{770, 650, 21, 21};
+inline constexpr QRect to_end_button{790, 650, 21, 21};
 
 } // namespace place

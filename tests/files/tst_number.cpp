@@ -16,6 +16,11 @@ std::optional<double> by_qt(const QString& token)
     return ok ? std::optional(value) : std::nullopt;
 }
 
+double value_by_qt(const QString& text)
+{
+    return text.toDouble();
+}
+
 bool same(std::optional<double> a, std::optional<double> b)
 {
     if (!a || !b)
@@ -48,6 +53,9 @@ private slots:
     void number();
     void random_tokens_as_qt();
     void random_doubles_in_all_notations();
+    void value_of_text_data();
+    void value_of_text();
+    void random_values_as_qt();
 };
 
 // The test is run in several locales; without the locale on the system it would test nothing.
@@ -147,6 +155,45 @@ void tst_number::random_doubles_in_all_notations()
         const char format = "efgEG"[random.bounded(5)];
         const QString token = QString::number(value, format, random.bounded(0, 20));
         QVERIFY2(same(number_in(token.toUtf8()), by_qt(token)), qPrintable(token));
+    }
+}
+
+void tst_number::value_of_text_data()
+{
+    QTest::addColumn<QByteArray>("text");
+    QTest::addColumn<double>("value");
+    const auto row = [](const QByteArray& text, double value) {
+        QTest::addRow("\"%s\"", text.constData()) << text << value;
+    };
+    row("1.25", 1.25);
+    row("  -1.25 ", -1.25);
+    row("-0", -0.0);
+    row("", 0.0);
+    row("   ", 0.0);
+    row("1 2", 0.0);
+    row("Zeit", 0.0);
+    row("1,5", 0.0);
+    row(" +1e400", INFINITY);
+    row("1e-400", 0.0);
+    row("nan", std::nan(""));
+}
+
+void tst_number::value_of_text()
+{
+    QFETCH(QByteArray, text);
+    QFETCH(double, value);
+    QVERIFY(same(value_of(QByteArrayView(text)), value));
+    QVERIFY(same(value_of(QLatin1StringView(text)), value));
+    QVERIFY(same(value_of(QStringView(QString(text))), value));
+    QVERIFY(same(value_by_qt(text), value));
+}
+
+void tst_number::random_values_as_qt()
+{
+    QRandomGenerator random(20263);
+    for (int i = 0; i < 300000; ++i) {
+        const QString text = random_token(random) + QString(random.bounded(3), u' ');
+        QVERIFY2(same(value_of(text.toUtf8()), value_by_qt(text)), qPrintable(text));
     }
 }
 

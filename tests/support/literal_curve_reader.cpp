@@ -6,18 +6,6 @@
 
 namespace {
 
-QStringList lines_of(const QString& path)
-{
-    QStringList lines;
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly | QIODevice::Text))
-        return lines;
-    QTextStream stream(&file);
-    while (!stream.atEnd())
-        lines.append(stream.readLine());
-    return lines;
-}
-
 void take_basin_row(const QString& line, literal_reading& result)
 {
     result.series[1].append(line.mid(37, 7).toDouble());
@@ -59,7 +47,12 @@ literal_reading read_bek_literally(const QString& path, const QString& item)
     literal_reading result;
     result.plot_mode = 9;
     bool in_block = false;
-    for (const QString& line : lines_of(path)) {
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly | QIODevice::Text))
+        return result;
+    QTextStream stream(&file);
+    while (!stream.atEnd()) {
+        const QString line = stream.readLine();
         const QString identifier = line.mid(3, 5);
         if (!in_block) {
             if (identifier.contains(item)) {
@@ -84,7 +77,12 @@ literal_reading read_dkl_literally(const QString& path, const QString& item)
     int points_expected = 0;
     bool found = false;
     bool in_block = false;
-    for (const QString& line : lines_of(path)) {
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly | QIODevice::Text))
+        return result;
+    QTextStream stream(&file);
+    while (!stream.atEnd()) {
+        const QString line = stream.readLine();
         if (line.contains("Wo") && !line.contains("Wo>"))
             continue;
         if (!line.contains("Wo") && parts.size() > 2 && line.contains(parts[0]) &&

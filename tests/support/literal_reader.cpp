@@ -115,15 +115,16 @@ literal_reading read_literally(const QString& path)
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly | QIODevice::Text))
         return result;
+    const QString ending = path.toUpper().right(3);
     QTextStream stream(&file);
     while (!stream.atEnd()) {
         const QString line = stream.readLine();
-        if (path.toUpper().endsWith("BEK")) {
+        if (ending == "BEK") {
             take_bek_line(line, result);
-        } else if (path.toUpper().endsWith("WEL")) {
+        } else if (ending == "WEL") {
             if (!take_wel_line(line, name, result))
                 break;
-        } else if (path.toUpper().endsWith("DKL")) {
+        } else if (ending == "DKL") {
             take_dkl_line(line, result);
         }
     }

@@ -1,0 +1,41 @@
+#pragma once
+
+#include <chrono>
+#include <string>
+#include <vector>
+
+namespace bench {
+
+/// One figure: what was done, how long it took, what it is measured against, and how many times
+/// that it may take at most.
+struct figure
+{
+    std::string what;
+    double milliseconds = 0.0;
+    std::string against;
+    double base_milliseconds = 0.0;
+    double limit = 0.0;
+
+    double ratio() const { return milliseconds / base_milliseconds; }
+};
+
+/// The shortest time in milliseconds of `runs` runs: what disturbs a run only makes it longer.
+template <class function>
+double shortest(int runs, const function& run)
+{
+    double best = 0.0;
+    for (int i = 0; i < runs; ++i) {
+        const auto start = std::chrono::steady_clock::now();
+        run();
+        const std::chrono::duration<double, std::milli> time =
+            std::chrono::steady_clock::now() - start;
+        if (i == 0 || time.count() < best)
+            best = time.count();
+    }
+    return best;
+}
+
+/// Prints a line for each figure and answers whether all of them keep their limits.
+bool report(const std::vector<figure>& figures);
+
+} // namespace bench

@@ -1,0 +1,72 @@
+#include "tests/end_to_end/road.h"
+
+#include <QApplication>
+#include <QTest>
+
+namespace {
+
+bool screenshots_are_wanted()
+{
+    return qEnvironmentVariableIsSet("KORIMO_SCREENSHOTS");
+}
+
+} // namespace
+
+road::road() = default;
+
+road::~road() = default;
+
+void road::initTestCase()
+{
+    QVERIFY2(screen.is_ready(), "Xvfb and openbox are needed");
+    QVERIFY2(!xdotool({"version"}).isEmpty(), "xdotool is needed");
+    static int count = 1;
+    static char name[] = "end_to_end";
+    static char* arguments[] = {name, nullptr};
+    qputenv("QT_QPA_PLATFORM", "xcb");
+    application = std::make_unique<QApplication>(count, arguments);
+}
+
+void road::init()
+{
+    program = std::make_unique<viewer>();
+    QVERIFY(program->is_shown());
+}
+
+void road::cleanup()
+{
+    if (QTest::currentTestFailed() || screenshots_are_wanted())
+        screenshot().save(QString("screenshot_%1.png").arg(QTest::currentTestFunction()));
+    program.reset();
+}
+
+void road::cleanupTestCase()
+{
+    application.reset();
+}
+
+void road::add_by_typing(const QStringList& names)
+{
+    QString text;
+    for (const QString& name : names) {
+        QVERIFY(program->bring(name));
+        text += "\"" + name + "\" ";
+    }
+    program->choose_file_entry(0);
+    QVERIFY(viewer::sees_window("Auswahl der Datei zum Plotten"));
+    QTest::qWait(500);
+    program->type(text.trimmed());
+    program->key("Return");
+    QTRY_VERIFY(program->sees(first_file_row, Qt::black) > 20);
+}
+
+void road::select_row(int row) const
+{
+    program->click(place::files.topLeft() + QPoint(100, 9 + 16 * row));
+}
+
+void road::keep_screenshot(const QString& name)
+{
+    if (screenshots_are_wanted())
+        screenshot().save(QString("screenshot_%1.png").arg(name));
+}
