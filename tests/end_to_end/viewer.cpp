@@ -6,14 +6,18 @@
 #include <QFile>
 #include <QTest>
 
+#include <chrono>
+
 namespace {
 
-constexpr int seconds = 1000;
+using namespace std::chrono_literals;
+
+constexpr int patience = 10'000; // ms
 
 // Waits until the program has handled its input, and the screen stands still.
 void settle()
 {
-    const QDeadlineTimer deadline(3 * seconds);
+    const QDeadlineTimer deadline(3s);
     QTest::qWait(200);
     QImage before;
     QImage now = screenshot();
@@ -57,7 +61,7 @@ viewer::~viewer()
 
 bool viewer::is_shown()
 {
-    const QDeadlineTimer deadline(20 * seconds);
+    const QDeadlineTimer deadline(20s);
     while (!deadline.hasExpired()) {
         for (const QString& candidate : visible_windows("plot_korimo")) {
             const QString geometry = xdotool({"getwindowgeometry", "--shell", candidate});
@@ -142,12 +146,12 @@ void viewer::choose_file_entry(int entry) const
 
 bool viewer::sees_window(const QString& title)
 {
-    return QTest::qWaitFor([&] { return !visible_windows(title).isEmpty(); }, 10 * seconds);
+    return QTest::qWaitFor([&] { return !visible_windows(title).isEmpty(); }, patience);
 }
 
 bool viewer::sees_no_window(const QString& title)
 {
-    return QTest::qWaitFor([&] { return visible_windows(title).isEmpty(); }, 10 * seconds);
+    return QTest::qWaitFor([&] { return visible_windows(title).isEmpty(); }, patience);
 }
 
 QImage viewer::look(const QRect& area) const
@@ -162,7 +166,6 @@ int viewer::sees(const QRect& area, const QColor& colour) const
 
 int viewer::exit_code()
 {
-    const bool ended =
-        program.state() == QProcess::NotRunning || program.waitForFinished(10 * seconds);
+    const bool ended = program.state() == QProcess::NotRunning || program.waitForFinished(patience);
     return ended && program.exitStatus() == QProcess::NormalExit ? program.exitCode() : -1;
 }

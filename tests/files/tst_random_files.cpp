@@ -23,7 +23,7 @@ private slots:
 
 namespace {
 
-constexpr int file_count = 500;
+constexpr qsizetype file_count = 500;
 
 // One file after the other, made from a seed of their name, and both plots for the documents.
 struct random_road
@@ -71,7 +71,7 @@ void tst_random_files::files()
 {
     QFETCH(QString, name);
     random_road road(name);
-    for (int i = 0; i < file_count; ++i) {
+    for (qsizetype i = 0; i < file_count; ++i) {
         road.next();
         const literal_reading expected = read_literally(road.path);
         korimo_plot document(road.plots.lower.get(), road.plots.upper.get());
@@ -87,7 +87,7 @@ void tst_random_files::basins()
     random_road road("basins.bek");
     const QStringList others{"B1   ", "B2   ", "B9   ", "B\u00fc   ", "B1", "1"};
     qsizetype rows = 0;
-    for (int i = 0; i < 10 * file_count; ++i) {
+    for (qsizetype i = 0; i < 10 * file_count; ++i) {
         road.next();
         const QString item = name_to_read(road.path, others, road.random);
         const literal_reading expected = read_bek_literally(road.path, item);
@@ -112,7 +112,7 @@ void tst_random_files::throttles()
                              "Sp_3_\u00dcberlauf"};
     qsizetype points = 0;
     qsizetype warnings = 0;
-    for (int i = 0; i < 10 * file_count; ++i) {
+    for (qsizetype i = 0; i < 10 * file_count; ++i) {
         road.next();
         const QString item = name_to_read(road.path, others, road.random);
         const literal_reading expected = read_dkl_literally(road.path, item);

@@ -8,18 +8,18 @@ namespace {
 // What may stand in the identifier's columns, five characters wide.
 QByteArray identifier(QRandomGenerator& random)
 {
-    static const QByteArrayList names = {"B1   ",        "B1   ", "B2   ",  "b2   ", "B1B1 ",
-                                         "B\xC3\xBC   ", "BBez ", "Bez  ",  "X1   ", " B1  ",
-                                         "B\xFF   ",     "  B1 ", "B1\t  ", "    x"};
+    static const QByteArrayList names = {"B1   ",      "B1   ", "B2   ",  "b2   ", "B1B1 ",
+                                         "B\u00fc   ", "BBez ", "Bez  ",  "X1   ", " B1  ",
+                                         "B\xFF   ",   "  B1 ", "B1\t  ", "    x"};
     return once_in(2, random) ? QByteArray("     ") : any_of(names, random);
 }
 
 QByteArray value(int width, QRandomGenerator& random)
 {
-    static const QByteArrayList odd = {"",      "0.00",  "0.0",   "0.000",     "0",       "0.0000",
-                                       "-0.0",  "-0.50", "1e3",   "1E+00",     "inf",     "nan",
-                                       "1e999", "1,5",   "abc",   "1 2",       "\t0.00",  "0.00\t",
-                                       "+1",    ".5",    "1e-99", "5\xC2\xA0", "\xC3\xBC"};
+    static const QByteArrayList odd = {"",      "0.00",  "0.0",   "0.000",   "0",      "0.0000",
+                                       "-0.0",  "-0.50", "1e3",   "1E+00",   "inf",    "nan",
+                                       "1e999", "1,5",   "abc",   "1 2",     "\t0.00", "0.00\t",
+                                       "+1",    ".5",    "1e-99", "5\u00a0", "\u00fc"};
     if (once_in(3, random))
         return any_of(odd, random).rightJustified(width);
     return QByteArray::number(random.bounded(3000.0) - 100.0, 'f', random.bounded(4))
@@ -30,10 +30,8 @@ QByteArray value(int width, QRandomGenerator& random)
 // A line with all its columns in their places, or one place beside them.
 QByteArray full_line(QRandomGenerator& random)
 {
-    static const QByteArrayList descriptions = {"", "HRB Oberdorf", "HRB M\xC3\xBChlbach",
-                                                "R\xFC"
-                                                "ckhalt",
-                                                "\xF0\x9F\x92\xA7"};
+    static const QByteArrayList descriptions = {"", "HRB Oberdorf", "HRB M\u00fchlbach",
+                                                "R\xFC-Halt", "\U0001f4a7"};
     QByteArray line = "   " + identifier(random) + " " + any_of(descriptions, random);
     line = line.leftJustified(once_in(6, random) ? random.bounded(34, 41) : 37);
     for (const int width : {7, 6, 6, 7})

@@ -10,7 +10,7 @@ QByteArray random_file(const QString& name, QRandomGenerator& random)
     const QByteArray& line_end = any_of(line_ends, random);
     QByteArray bytes;
     if (once_in(20, random))
-        bytes += "\xEF\xBB\xBF";
+        bytes += "\ufeff";
     for (int n = random.bounded(0, 14); n > 0; --n) {
         bytes += name.endsWith("bek", Qt::CaseInsensitive)   ? random_bek_lines(random)
                  : name.endsWith("dkl", Qt::CaseInsensitive) ? random_dkl_lines(random)

@@ -28,13 +28,11 @@ QByteArray number(QRandomGenerator& random)
                                        "1_0",
                                        "\t7",
                                        "7\t8",
-                                       "\xC2\xA0"
-                                       "3",
-                                       "4\xC2\xA0",
-                                       "\xEF\xBC\x91",
+                                       "\u00a03",
+                                       "4\u00a0",
+                                       "\uff11",
                                        "5\xFF",
-                                       "\xEF\xBB\xBF"
-                                       "6",
+                                       "\ufeff6",
                                        "9\xC3",
                                        QByteArray("1\0", 2),
                                        QByteArray("\0", 1),
@@ -66,9 +64,8 @@ QByteArray number_row(QRandomGenerator& random)
 QByteArray random_wel_lines(QRandomGenerator& random)
 {
     static const QByteArrayList texts = {"Ganglinien Pegel P",
-                                         "  Ganglinien \xC3\x9C",
-                                         "\xEF\xBB\xBF"
-                                         "Ganglinien",
+                                         "  Ganglinien \u00dc",
+                                         "\ufeffGanglinien",
                                          "ganglinien klein",
                                          "Ganglinien\xFF",
                                          "Gang\rlinien Titel",
