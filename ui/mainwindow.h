@@ -47,6 +47,7 @@ public slots:
     void listWidget_item_changed();
     // Deliberate: named unlike its action, so it is connected by hand.
     void on_action_oeffenen_triggered();
+    /// Saves what both plots show as one picture beside the data file, and says where.
     void on_action_speicher_triggered();
     void on_action_schliessen_triggered();
     void on_action_Orvan_Information_triggered();
@@ -57,11 +58,13 @@ public slots:
     /// of the axes that the user fixed, any other ("clear_btn") forgets them.
     void clear_plots(QString trigger);
     void set_min_max(QList<double> min_max);
+    /// These five let the user fix the range of one axis.
     void on_action_y_achse_unten_triggered();
     void on_actionx_Achse_unten_triggered();
     void on_actiony_Achse_oben_triggered();
     void on_actionx_Achse_oben_triggered();
     void on_action2_X_Achse_unten_triggered();
+    /// Lets the user give the curves new names.
     void on_actionZeitreihe_change_names_triggered();
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dropEvent(QDropEvent* event) override;
@@ -94,6 +97,11 @@ private:
         yes,
     };
     void apply_kept_ranges(redraw wanted);
+    using axis_slot = void (MainWindow::*)();
+    struct axis_command;
+    static const axis_command& axis_command_of(axis_slot slot);
+    void ask_for_range(axis_slot slot);
+    static bool has_curves(QwtPlot* plot);
     QString idle_button_text() const;
 
     Ui::MainWindow* ui;
@@ -105,6 +113,7 @@ private:
     QString current_file_path;
     QString selected_item_name;
     axis_dialog* range_dialog;
+    QList<double> applied_range; // the last one that the dialog gave
     QString clear_trigger;
     std::array<QList<double>, 4> kept_ranges; // of the lower x, upper x, lower y and upper y axis
     QList<bool> keep_flags{false, false, false, false};

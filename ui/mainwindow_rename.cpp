@@ -1,0 +1,20 @@
+#include "ui/mainwindow.h"
+
+#include "plot/korimo_plot.h"
+#include "ui/rename_dialog.h"
+#include "ui_mainwindow.h"
+
+void MainWindow::on_actionZeitreihe_change_names_triggered()
+{
+    if (!document_exists)
+        return;
+    names_dialog->set_old_names(document->get_curve_names());
+    names_dialog->exec();
+    const QStringList new_names = names_dialog->get_new_names();
+    if (new_names.isEmpty()) // left without "OK": what was typed stays for the next time
+        return;
+    names_dialog->clear_names();
+    document->set_curve_names(new_names);
+    ui->qwtPlot->replot();
+    ui->qwtPlot_2->replot();
+}
