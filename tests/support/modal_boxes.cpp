@@ -23,6 +23,7 @@ void modal_boxes::answer()
     if (!box || !box->isVisible())
         return;
     boxes.append({box->windowTitle(), box->text(), box->detailedText(), box->standardButtons(),
-                  box->icon(), !box->windowIcon().isNull(), box->isModal()});
+                  box->icon(), !box->windowIcon().isNull(), box->isModal(),
+                  box->testAttribute(Qt::WA_SetWindowIcon), box});
     QTest::keyClick(box, Qt::Key_Return);
 }

@@ -14,6 +14,8 @@ struct shown_box
     QMessageBox::Icon icon = QMessageBox::NoIcon;
     bool has_window_icon = false;
     bool was_modal = false;
+    bool own_window_icon = false; ///< not only the application's
+    const void* object = nullptr; ///< to tell boxes apart
 };
 
 /// Whether a box is the one that asks for a selection, with "Ok" as its only button.
