@@ -233,6 +233,7 @@ void tst_rename_command::both_plots_are_redrawn()
 {
     window_driver driver;
     driver.open("x_B.wel", basin_file);
+    QCoreApplication::processEvents(); // the first showing redraws, too
     for (QwtPlot* plot : {driver.lower, driver.upper})
         plot->setAxisScale(QwtAxis::YLeft, 100, 200); // takes effect with the next redraw
     rename(driver, [](rename_dialog& dialog) { press(dialog, "Cancel"); });
