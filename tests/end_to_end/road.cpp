@@ -25,6 +25,7 @@ void road::initTestCase()
     static char* arguments[] = {name, nullptr};
     qputenv("QT_QPA_PLATFORM", "xcb");
     application = std::make_unique<QApplication>(count, arguments);
+    plan = std::make_unique<floor_plan>();
 }
 
 void road::init()
@@ -42,6 +43,7 @@ void road::cleanup()
 
 void road::cleanupTestCase()
 {
+    plan.reset();
     application.reset();
 }
 
@@ -67,6 +69,11 @@ void road::select_row(int row) const
 
 void road::keep_screenshot(const QString& name)
 {
+    keep_picture(screenshot(), name);
+}
+
+void road::keep_picture(const QImage& picture, const QString& name)
+{
     if (screenshots_are_wanted())
-        screenshot().save(QString("screenshot_%1.png").arg(name));
+        picture.save(QString("screenshot_%1.png").arg(name));
 }

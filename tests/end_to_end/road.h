@@ -1,6 +1,7 @@
 #pragma once
 
 #include "tests/end_to_end/desktop.h"
+#include "tests/end_to_end/floor_plan.h"
 #include "tests/end_to_end/viewer.h"
 
 #include <QColor>
@@ -40,7 +41,10 @@ protected:
     /// Keeps a screenshot of this name, if screenshots are wanted.
     static void keep_screenshot(const QString& name);
 
+    static void keep_picture(const QImage& picture, const QString& name);
+
     desktop screen;
     std::unique_ptr<QApplication> application;
+    std::unique_ptr<floor_plan> plan;
     std::unique_ptr<viewer> program;
 };

@@ -100,18 +100,8 @@ void tst_hydrograph_road::file_dialog_by_clicking()
     program->choose_file_entry(0);
     QVERIFY(viewer::sees_window("Auswahl der Datei zum Plotten"));
     QTest::qWait(1000);
-    const QString dialog = xdotool({"search", "--onlyvisible", "--name", "Auswahl der Datei"});
-    const QStringList geometry = xdotool({"getwindowgeometry", "--shell", dialog}).split('\n');
-    const auto number = [&](const QString& name) {
-        return geometry.filter(QRegularExpression("^" + name + "="))
-            .value(0)
-            .section('=', 1)
-            .toInt();
-    };
     // The first row of the list of files: beside the side bar, below the tool buttons.
-    const QPoint first(number("X") + 200, number("Y") + 52);
-    xdotool({"mousemove", QString::number(first.x()), QString::number(first.y()), "click", "1"});
-    QTest::qWait(300);
+    viewer::click_in_dialog("Auswahl der Datei zum Plotten", QPoint(200, 72));
     xdotool({"key", "alt+o"});
     QTRY_VERIFY(program->sees(first_file_row, Qt::black) > 20);
     select_row(0);

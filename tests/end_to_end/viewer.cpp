@@ -4,6 +4,7 @@
 
 #include <QDeadlineTimer>
 #include <QFile>
+#include <QRegularExpression>
 #include <QTest>
 
 #include <chrono>
@@ -99,6 +100,26 @@ void viewer::click(const QPoint& point) const
     settle();
 }
 
+void viewer::click_in_window(const QPoint& point) const
+{
+    click(inside - origin + point);
+}
+
+void viewer::click_in_dialog(const QString& title, const QPoint& point, int times)
+{
+    xdotool(QStringList{"mousemove", "--window", visible_windows(title).value(0)} +
+            place_words(point) +
+            QStringList{"click", "--repeat", QString::number(times), "--delay", "80", "1"});
+    settle();
+}
+
+int viewer::height_of(const QString& title)
+{
+    const QString text = xdotool({"getwindowgeometry", "--shell", visible_windows(title).value(0)});
+    const QRegularExpression line("^HEIGHT=(\\d+)$", QRegularExpression::MultilineOption);
+    return line.match(text).captured(1).toInt();
+}
+
 void viewer::wheel(const QPoint& point, int notches, const QString& modifier) const
 {
     xdotool(QStringList{"mousemove"} + place_words(on_screen(point)));
@@ -138,7 +159,7 @@ void viewer::key(const QString& name) const
 
 void viewer::choose_file_entry(int entry) const
 {
-    click(inside - origin + QPoint(25, 10));
+    click_in_window(QPoint(25, 10));
     for (int i = 0; i <= entry; ++i)
         key("Down");
     key("Return");

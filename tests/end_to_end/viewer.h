@@ -24,6 +24,10 @@ public:
     bool bring(const QString& example) const;
 
     void click(const QPoint& place) const;
+    /// Clicks at a place of the window, not of its central widget.
+    void click_in_window(const QPoint& place) const;
+    /// Clicks at a place of the dialog with this title, once or twice.
+    static void click_in_dialog(const QString& title, const QPoint& place, int times = 1);
     void wheel(const QPoint& place, int notches, const QString& modifier = {}) const;
     void drag_right(const QPoint& from, const QPoint& to) const;
     void type(const QString& text) const;
@@ -34,6 +38,9 @@ public:
     static bool sees_window(const QString& title);
     /// Waits until no window has this title.
     static bool sees_no_window(const QString& title);
+
+    /// How high the window with this title is, without its frame.
+    static int height_of(const QString& title);
 
     QPoint on_screen(const QPoint& place) const { return origin + place; }
     /// What the window shows of an area.
