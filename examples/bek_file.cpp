@@ -10,7 +10,7 @@ namespace example {
 
 namespace {
 
-// Fields lie at fixed character positions: key 3-7, name 9-35, then the four values.
+// Fields lie at fixed character positions: key 3-7, name 9-36, then the four values.
 constexpr std::size_t indent = 3;
 constexpr std::size_t key_width = 6;
 constexpr std::size_t name_width = 28;

@@ -7,13 +7,6 @@
 
 namespace {
 
-// A field that is no number counts as 0.
-template <class text_view>
-void append_number(text_view line, const text_field& where, QList<double>& values)
-{
-    values.append(value_of(field(line, where)));
-}
-
 template <class text_view>
 bool is_written_zero(text_view text)
 {
@@ -24,21 +17,21 @@ bool is_written_zero(text_view text)
 // the values that are 0 only the usual spellings count: a bare "0" and text that is no number are
 // dropped like a negative value. That is deliberate.
 template <class text_view>
-void append_spillway(text_view line, QList<double>& values)
+bool is_written(text_view text, double value)
 {
-    const text_view text = field(line, bek_spillway).trimmed();
-    const double value = value_of(text);
-    if (value > 0.0 || is_written_zero(text))
-        values.append(value);
+    return value > 0.0 || is_written_zero(text.trimmed());
 }
 
+// A field that is no number counts as 0.
 template <class text_view>
 void append_row(text_view line, series_store& series)
 {
-    append_number(line, bek_water_level, series[1]);
-    append_number(line, bek_outlet, series[11]);
-    append_spillway(line, series[13]);
-    append_number(line, bek_volume, series[23]);
+    for (const bek_column& column : bek_columns) {
+        const text_view text = field(line, column.where);
+        const double value = value_of(text);
+        if (!column.may_be_blank || is_written(text, value))
+            series[column.series].append(value);
+    }
 }
 
 // Takes the next line and answers whether the block of the basin is open after it.

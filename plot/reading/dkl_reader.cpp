@@ -37,10 +37,10 @@ private:
 };
 
 // The number of points that a line announces, or 0 where it does not. Nearly all lines are points,
-// with a "." that no whole number has.
+// with a "." that no whole number has; behind a NUL, at which Qt stops to read, it does not count.
 int point_count_in(QByteArrayView line)
 {
-    return has(line, ".") ? 0 : decoded(line).toInt();
+    return has(line, ".") && !line.contains('\0') ? 0 : decoded(line).toInt();
 }
 
 // Appends the point of a data line. A point with a 0 is taken for text that is no number, and
@@ -81,12 +81,12 @@ void read_dkl(text_lines& lines, const QString& item, QString& title, series_sto
             title = item;
             found = true;
         } else if (const int count = point_count_in(line); count != 0) {
-            points_expected = found ? count : points_expected;
-            in_block = in_block || found;
-        } else if (found && in_block && points_expected > points_read) {
+            points_expected = count;
+            in_block = found;
+        } else if (in_block && points_expected > points_read) {
             append_point(line, series);
             ++points_read;
-        } else if (found && in_block) {
+        } else if (in_block) {
             found = in_block = false;
         }
     }

@@ -7,10 +7,11 @@
 #include <QString>
 #include <QStringView>
 
+#include <algorithm>
 #include <string>
 #include <string_view>
 
-/// Whether `text` stands somewhere in `bytes`. For lines, this is much faster than Qt's search.
+/// Whether `text` stands somewhere in `bytes`.
 inline bool has(QByteArrayView bytes, std::string_view text)
 {
     return std::string_view(bytes.data(), static_cast<std::size_t>(bytes.size())).find(text) !=
@@ -44,18 +45,20 @@ class searched_text
 public:
     explicit searched_text(QStringView text)
         : text(text.toString())
-        , utf8(text.toUtf8().toStdString())
+        , ascii(text.toLatin1().toStdString())
+        , all_ascii(std::ranges::all_of(text, [](QChar c) { return c.unicode() < 0x80; }))
     {
     }
 
     /// Whether it stands somewhere in `line`, as with_text_of gives it. The case matters.
     bool is_in(QLatin1StringView line) const
     {
-        return has(QByteArrayView(line.data(), line.size()), utf8);
+        return all_ascii && has(QByteArrayView(line.data(), line.size()), ascii);
     }
     bool is_in(QStringView line) const { return line.contains(text); }
 
 private:
     QString text;
-    std::string utf8; // where the line is ASCII: what is not ASCII here, is not there
+    std::string ascii;
+    bool all_ascii; // if not, it is in no line of ASCII alone
 };

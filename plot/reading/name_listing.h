@@ -8,5 +8,6 @@ class text_lines;
 /// identifier as they stand, blanks included.
 QStringList list_bek_names(text_lines& lines);
 
-/// The characteristic curves that a DKL file names, in the order of the file.
+/// The characteristic curves that a DKL file names, in the order of the file. A header with too few
+/// words for a name is left out and logged at debug level.
 QStringList list_dkl_names(text_lines& lines);

@@ -1,5 +1,6 @@
 #include "plot/reading/bek_reader.h"
 #include "plot/reading/text_lines.h"
+#include "tests/support/literal_curve_reader.h"
 #include "tests/support/modal_boxes.h"
 #include "tests/support/plot_pair.h"
 
@@ -130,6 +131,8 @@ void tst_bek_reader::slot_reads_a_file()
     const QStringList names = plots.document->get_kennlinien_list();
     QVERIFY(!names.isEmpty() && names.count(names[0]) == 2);
     plots.document->read_BEK(EXAMPLES_DIR "/Erlenbach.bek", names[0]);
+    QCOMPARE(plots.document->series,
+             read_bek_literally(EXAMPLES_DIR "/Erlenbach.bek", names[0]).series);
     QCOMPARE(plots.document->plot_mode, 9);
     QVERIFY(plots.document->series[1].size() > 4);
     QVERIFY(std::ranges::is_sorted(plots.document->series[1]));

@@ -1,5 +1,6 @@
 #include "plot/reading/dkl_reader.h"
 #include "plot/reading/text_lines.h"
+#include "tests/support/literal_curve_reader.h"
 #include "tests/support/log_capture.h"
 #include "tests/support/modal_boxes.h"
 #include "tests/support/plot_pair.h"
@@ -162,6 +163,8 @@ void tst_dkl_reader::slot_reads_a_file()
     const QString name = plots.document->get_kennlinien_list().value(1);
     plots.document->read_DKL(EXAMPLES_DIR "/Erlenbach.dkl", name);
     QVERIFY(!name.isEmpty());
+    QCOMPARE(plots.document->series,
+             read_dkl_literally(EXAMPLES_DIR "/Erlenbach.dkl", name).series);
     QCOMPARE(plots.document->plot_mode, 8);
     QCOMPARE(plots.document->get_wel_title(), name);
     QVERIFY(plots.document->series[1].size() > 2);

@@ -113,8 +113,7 @@ void tst_characteristic_road::all_names_there_and_back()
     QList<QImage> pictures{press(place::to_start_button)};
     for (int i = 1; i < count; ++i) {
         pictures.append(press(place::forward_button));
-        if (name.endsWith("dkl")) // a basin in two blocks of a BEK file is drawn the same twice
-            QVERIFY(pictures[i] != pictures[i - 1]);
+        QVERIFY(pictures[i] != pictures[i - 1]);
     }
     QCOMPARE(press(place::forward_button), pictures.last());
     QCOMPARE(press(place::to_end_button), pictures.last());
@@ -131,11 +130,13 @@ void tst_characteristic_road::change_of_file()
     select_row(0);
     program->click(place::plot_button.center());
     QTRY_VERIFY(program->sees(place::upper_plot, red) > 50);
-    for (const int row : {1, 2, 1}) {
+    for (const int row : {1, 2, 0, 2, 1}) {
         select_row(row);
         expect_empty_plots();
         QTRY_COMPARE(program->sees(place::names, Qt::black), 0);
         program->click(place::plot_button.center());
+        if (row == 0)
+            continue;
         QTRY_VERIFY(program->sees(place::names, Qt::black) > 20);
         press(place::to_end_button);
         QTRY_VERIFY(program->sees(place::lower_plot, blue) > 100);

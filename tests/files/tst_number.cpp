@@ -197,6 +197,9 @@ void tst_number::random_values_as_qt()
     for (int i = 0; i < 300000; ++i) {
         const QString text = random_token(random) + QString(random.bounded(3), u' ');
         QVERIFY2(same(value_of(text.toUtf8()), value_by_qt(text)), qPrintable(text));
+        QVERIFY2(same(value_of(QStringView(text)), value_by_qt(text)), qPrintable(text));
+        const QByteArray ascii = QString(text).remove(u'\u00a0').toLatin1();
+        QVERIFY2(same(value_of(QLatin1StringView(ascii)), value_by_qt(ascii)), ascii.constData());
     }
 }
 

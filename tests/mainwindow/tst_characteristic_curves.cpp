@@ -1,9 +1,11 @@
 #include "plot/korimo_plot.h"
+#include "tests/support/modal_answer.h"
 #include "tests/support/modal_boxes.h"
 #include "tests/support/named_curves.h"
 
 #include <qwt_plot.h>
 #include <qwt_plot_curve.h>
+#include <qwt_scale_div.h>
 #include <qwt_text.h>
 
 #include <QListWidget>
@@ -34,20 +36,25 @@ QList<QPointF> points_of(const QwtPlotCurve* curve)
     return points;
 }
 
-bool has_blue(const QImage& image)
+double top_of(const QwtPlot* plot)
 {
-    for (int y = 0; y < image.height(); ++y) {
-        for (int x = 0; x < image.width(); ++x) {
-            if (image.pixelColor(x, y) == QColor(Qt::blue))
-                return true;
-        }
+    return plot->axisScaleDiv(QwtAxis::YRight).upperBound();
+}
+
+// The box that the commands of the window share, while there is no document with one of its own.
+QMessageBox* shared_box()
+{
+    QMessageBox* found = nullptr;
+    for (QWidget* widget : QApplication::topLevelWidgets()) {
+        if (auto* const box = qobject_cast<QMessageBox*>(widget))
+            found = box;
     }
-    return false;
+    return found;
 }
 
 } // namespace
 
-// The command that draw a curve named in the right-hand list.
+// The command that draws a curve named in the right-hand list.
 class tst_characteristic_curves : public QObject
 {
     Q_OBJECT
@@ -60,7 +67,14 @@ private slots:
     void nothing_selected_data();
     void nothing_selected();
     void more_than_one_selected();
+    void after_a_hydrograph_data();
     void after_a_hydrograph();
+    void before_and_after_a_hydrograph();
+    void names_that_contain_each_other();
+    void basin_in_two_blocks();
+    void selected_name_counts();
+    void box_shows_ok_only();
+    void button_keeps_its_text();
     void kind_is_told_whatever_its_case();
     void file_of_no_kind();
     void basin_file_that_vanished();
@@ -103,6 +117,7 @@ void tst_characteristic_curves::throttle_is_drawn()
     QCOMPARE(titles_of(driver.lower), QStringList{"3.5_3_Auslass3"});
     QCOMPARE(points_of(curves_of(driver.lower)[0]), (QList<QPointF>{{3, 101.5}, {9.5, 102}}));
     QVERIFY(curves_of(driver.upper).isEmpty());
+    QCOMPARE(driver.lower->title().text(), "");
     QCOMPARE(axes_of(driver.lower), (QStringList{"Qd [m3/s]", "Wo [m\u00fcNHN]"}));
     QCOMPARE(axes_of(driver.upper), (QStringList{"", ""}));
     QCOMPARE(driver.window.shown_document()->plot_mode, 8);
@@ -175,10 +190,16 @@ void tst_characteristic_curves::more_than_one_selected()
     QCOMPARE(drawn_number(driver), 1);
 }
 
+void tst_characteristic_curves::after_a_hydrograph_data()
+{
+    nothing_selected_data();
+}
+
 void tst_characteristic_curves::after_a_hydrograph()
 {
+    QFETCH(QString, name);
     window_driver driver;
-    driver.open("x.bek", basin_table());
+    driver.open(name, named_curves(name));
     driver.open("x_K.wel", node_file(9));
     QCOMPARE(driver.names->count(), 0);
     const modal_boxes boxes;
@@ -186,6 +207,75 @@ void tst_characteristic_curves::after_a_hydrograph()
     QCOMPARE(boxes.shown().size(), 1);
     QVERIFY(is_selection_error(boxes.shown()[0]));
     QCOMPARE(titles_of(driver.lower), (QStringList{"Qb", "Qges"}));
+}
+
+void tst_characteristic_curves::before_and_after_a_hydrograph()
+{
+    window_driver driver;
+    for (const char* name : {"x.dkl", "y.bek", "z.dkl"}) {
+        driver.open("x_K.wel", node_file(9));
+        QCOMPARE(titles_of(driver.lower), (QStringList{"Qb", "Qges"}));
+        driver.open(name, named_curves(name));
+        driver.pick(2);
+        driver.press(driver.plot_name);
+        QCOMPARE(drawn_number(driver), 3);
+        QCOMPARE(driver.lower->title().text(), "");
+    }
+}
+
+// The blanks of a name tell it from a longer one.
+void tst_characteristic_curves::names_that_contain_each_other()
+{
+    window_driver driver;
+    driver.open("x.bek", basin_table().replace("B2   ", "B10  "));
+    driver.pick(0);
+    driver.press(driver.plot_name);
+    QCOMPARE(points_of(curves_of(driver.lower)[0]), (QList<QPointF>{{1, 101.5}, {9, 102}}));
+}
+
+// It is listed for each block, and either entry draws all of it.
+void tst_characteristic_curves::basin_in_two_blocks()
+{
+    window_driver driver;
+    driver.open("x.bek", basin_table().replace("B4   ", "B1   "));
+    QCOMPARE(driver.names->count(), 4);
+    QCOMPARE(driver.names->item(3)->text(), "B1   ");
+    for (const int row : {0, 3}) {
+        driver.pick(row);
+        driver.press(driver.plot_name);
+        QCOMPARE(points_of(curves_of(driver.lower)[0]),
+                 (QList<QPointF>{{1, 101.5}, {9, 102}, {4, 101.5}, {9, 102}}));
+    }
+}
+
+void tst_characteristic_curves::selected_name_counts()
+{
+    window_driver driver;
+    driver.open("x.bek", basin_table());
+    driver.pick(0);
+    driver.names->setCurrentRow(2, QItemSelectionModel::NoUpdate);
+    driver.press(driver.plot_name);
+    QCOMPARE(drawn_number(driver), 1);
+}
+
+void tst_characteristic_curves::box_shows_ok_only()
+{
+    window_driver driver;
+    shared_box()->setStandardButtons(QMessageBox::Yes | QMessageBox::No);
+    const modal_boxes boxes;
+    driver.press(driver.plot_name);
+    QCOMPARE(boxes.shown().size(), 1);
+    QVERIFY(is_selection_error(boxes.shown()[0]));
+}
+
+void tst_characteristic_curves::button_keeps_its_text()
+{
+    window_driver driver;
+    driver.open("x.bek", basin_table());
+    driver.button->setText("as it was");
+    driver.pick(0);
+    driver.press(driver.plot_name);
+    QCOMPARE(driver.button->text(), "as it was");
 }
 
 void tst_characteristic_curves::kind_is_told_whatever_its_case()
@@ -229,24 +319,32 @@ void tst_characteristic_curves::basin_file_that_vanished()
     QCOMPARE(drawn_number(driver), 0);
 }
 
+// The lower plot, and it alone, is redrawn before the file is read.
 void tst_characteristic_curves::throttle_file_that_vanished()
 {
     window_driver driver;
     const QString path = driver.open("x.dkl", throttle_curves());
     driver.pick(0);
     driver.press(driver.plot_name);
-    QVERIFY(has_blue(driver.lower->canvas()->grab().toImage()));
     QVERIFY(QFile::remove(path));
-    // While the box is up, the curve drawn before has gone from the screen.
-    QImage behind_the_box;
-    QTimer::singleShot(0, &driver.window,
-                       [&] { behind_the_box = driver.lower->canvas()->grab().toImage(); });
-    const modal_boxes boxes;
+    QCoreApplication::processEvents();
+    for (QwtPlot* plot : {driver.lower, driver.upper})
+        plot->setAxisScale(QwtAxis::YRight, 100, 200); // takes effect with the next redraw
+    QString text;
+    bool empty = false;
+    QList<double> tops;
+    const modal_answer<QMessageBox> user([&](QMessageBox& box) {
+        text = box.text();
+        empty = curves_of(driver.lower).isEmpty();
+        tops = {top_of(driver.lower), top_of(driver.upper)};
+        QTest::keyClick(&box, Qt::Key_Return);
+    });
     driver.press(driver.plot_name);
-    QCOMPARE(boxes.shown().size(), 1);
-    QCOMPARE(boxes.shown()[0].text, "Could not open or read file");
-    QVERIFY(!behind_the_box.isNull());
-    QVERIFY(!has_blue(behind_the_box));
+    QCOMPARE(user.count(), 1);
+    QCOMPARE(text, "Could not open or read file");
+    QVERIFY(empty);
+    QCOMPARE(tops[0], 200.0);
+    QVERIFY(tops[1] != 200.0);
     QCOMPARE(titles_of(driver.lower), QStringList{""});
     QCOMPARE(drawn_number(driver), 0);
 }

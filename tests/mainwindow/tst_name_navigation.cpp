@@ -103,6 +103,7 @@ void tst_name_navigation::end_that_does_nothing_draws_nothing()
 {
     window_driver driver;
     driver.open("x.bek", basin_table());
+    const modal_boxes boxes;
     for (const auto& [to_the_end, button] : {std::pair("|<", "<"), std::pair(">|", ">")}) {
         driver.press(navigation_button(driver, to_the_end));
         const QPointer<korimo_plot> document = driver.window.shown_document();
@@ -110,6 +111,7 @@ void tst_name_navigation::end_that_does_nothing_draws_nothing()
         QVERIFY(document);
         QCOMPARE(driver.window.shown_document(), document.data());
     }
+    QVERIFY(boxes.shown().isEmpty());
 }
 
 void tst_name_navigation::end_that_draws_again()
@@ -137,12 +139,14 @@ void tst_name_navigation::all_names_there_and_back()
     QFETCH(QString, name);
     window_driver driver;
     driver.open(name, named_curves(name));
+    const modal_boxes boxes;
     QList<int> drawn;
     for (const char* button : {"|<", ">", ">", ">", ">", "<", "<", "<", "<"}) {
         driver.press(navigation_button(driver, button));
         drawn.append(drawn_number(driver));
     }
     QCOMPARE(drawn, (QList<int>{1, 2, 3, 4, 4, 3, 2, 1, 1}));
+    QVERIFY(boxes.shown().isEmpty());
 }
 
 QTEST_MAIN(tst_name_navigation)

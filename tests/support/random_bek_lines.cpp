@@ -8,9 +8,10 @@ namespace {
 // What may stand in the identifier's columns, five characters wide.
 QByteArray identifier(QRandomGenerator& random)
 {
-    static const QByteArrayList names = {"B1   ",      "B1   ", "B2   ",  "b2   ", "B1B1 ",
-                                         "B\u00fc   ", "BBez ", "Bez  ",  "X1   ", " B1  ",
-                                         "B\xFF   ",   "  B1 ", "B1\t  ", "    x"};
+    static const QByteArrayList names = {
+        "B1   ",          "B1   ",          "B2   ", "b2   ", "B1B1 ",    "B\u00fc   ",
+        "BBez ",          "Bez  ",          "X1   ", " B1  ", "B\xFF   ", "B12?  ",
+        "B123\U0001f4a7", "B123\U0001f4a8", "B123?", "  B1 ", "B1\t  ",   "    x"};
     return once_in(2, random) ? QByteArray("     ") : any_of(names, random);
 }
 

@@ -27,6 +27,8 @@ QByteArray count_line(int count, QRandomGenerator& random)
                                        "2147483647", "2147483648", "0x3", "3 4",  "1,000",
                                        "3\u00a0",    "\u0663",     "",    "3\xFF"};
     static const QByteArrayList forms = {"%", "    %", "%  ", "+%", "00%", "\t%"};
+    if (once_in(40, random))
+        return QByteArray("3\0 1.5", 6);
     if (once_in(5, random))
         return any_of(odd, random);
     return QByteArray(any_of(forms, random)).replace('%', QByteArray::number(count));
