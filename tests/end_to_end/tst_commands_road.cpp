@@ -36,7 +36,6 @@ constexpr QPoint rename_ok(270, 270);
 
 // What stands to the left of both canvases, and below the lower one.
 constexpr QRect lower_left_axis(30, 270, 85, 300);
-constexpr QRect upper_left_axis(30, 55, 85, 130);
 constexpr QRect lower_legend(600, 260, 110, 60);
 
 } // namespace

@@ -41,17 +41,6 @@ double top_of(const QwtPlot* plot)
     return plot->axisScaleDiv(QwtAxis::YRight).upperBound();
 }
 
-// The box that the commands of the window share, while there is no document with one of its own.
-QMessageBox* shared_box()
-{
-    QMessageBox* found = nullptr;
-    for (QWidget* widget : QApplication::topLevelWidgets()) {
-        if (auto* const box = qobject_cast<QMessageBox*>(widget))
-            found = box;
-    }
-    return found;
-}
-
 } // namespace
 
 // The command that draws a curve named in the right-hand list.

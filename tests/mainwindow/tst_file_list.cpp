@@ -31,7 +31,11 @@ void with_file_dialog(QObject& rescue, const action& act)
     });
     QTimer::singleShot(0, [act] {
         QFileDialog* dialog = nullptr;
-        QTRY_VERIFY((dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget())));
+        const auto comes_up = [&] {
+            dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+            return dialog != nullptr;
+        };
+        QTRY_VERIFY(comes_up());
         act(*dialog);
     });
 }

@@ -40,6 +40,7 @@ private slots:
     void licence_twice();
     void licence_unfolded();
     void licence_keeps_what_the_box_had();
+    void licence_after_a_selection_error();
     void selection_error_after_the_licence();
     void parents_of_the_boxes_data();
     void parents_of_the_boxes();
@@ -122,8 +123,19 @@ void tst_information::licence_unfolded()
     QCOMPARE(shown_text, text_of(licence_path));
 }
 
-// The shared box keeps the window icon and the buttons that another command gave it.
+// The shared box keeps what another command gave it.
 void tst_information::licence_keeps_what_the_box_had()
+{
+    window_driver driver;
+    const modal_boxes boxes;
+    shared_box()->setIcon(QMessageBox::Warning);
+    shared_box()->setStandardButtons(QMessageBox::Yes);
+    driver.window.findChild<QAction*>("actionLGPLv3")->trigger();
+    QCOMPARE(boxes.shown()[0].buttons, QMessageBox::Yes);
+    QCOMPARE(boxes.shown()[0].icon, QMessageBox::Warning);
+}
+
+void tst_information::licence_after_a_selection_error()
 {
     window_driver driver;
     const modal_boxes boxes;

@@ -72,7 +72,7 @@ QStringList legend_texts(const QwtPlot* plot)
 
 double top_of(const QwtPlot* plot)
 {
-    return plot->axisScaleDiv(QwtAxis::YLeft).upperBound();
+    return plot->axisScaleDiv(QwtAxis::YRight).upperBound();
 }
 
 const QByteArray basin_file = "0 1 2 3 4 5 6 7 8\n72 2 3 4 5 6 7 8 9\n";
@@ -234,12 +234,13 @@ void tst_rename_command::both_plots_are_redrawn()
     window_driver driver;
     driver.open("x_B.wel", basin_file);
     QCoreApplication::processEvents(); // the first showing redraws, too
-    for (QwtPlot* plot : {driver.lower, driver.upper})
-        plot->setAxisScale(QwtAxis::YLeft, 100, 200); // takes effect with the next redraw
-    rename(driver, [](rename_dialog& dialog) { press(dialog, "Cancel"); });
-    QVERIFY(top_of(driver.lower) != 200 && top_of(driver.upper) != 200);
-    rename(driver, [](rename_dialog& dialog) { press(dialog, "OK"); });
-    QVERIFY(top_of(driver.lower) == 200 && top_of(driver.upper) == 200);
+    for (QwtPlot* plot : {driver.upper, driver.lower}) {
+        plot->setAxisScale(QwtAxis::YRight, 100, 200); // takes effect with the next redraw
+        rename(driver, [](rename_dialog& dialog) { press(dialog, "Cancel"); });
+        QVERIFY(top_of(plot) != 200);
+        rename(driver, [](rename_dialog& dialog) { press(dialog, "OK"); });
+        QCOMPARE(top_of(plot), 200.0);
+    }
 }
 
 QTEST_MAIN(tst_rename_command)

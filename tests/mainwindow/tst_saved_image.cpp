@@ -63,6 +63,7 @@ private slots:
     void file_name_of_a_curve();
     void nothing_plotted();
     void both_plots();
+    void plots_of_different_widths();
     void lower_plot_only_data();
     void lower_plot_only();
     void basin();
@@ -136,6 +137,21 @@ void tst_saved_image::both_plots()
     QCOMPARE(image.copy(0, 0, 681, 200), upper);
     QCOMPARE(image.copy(0, 200, 681, 381), lower);
     QCOMPARE(files_in(driver), (QStringList{"x_K.png", "x_K.wel"}));
+}
+
+// The layout does not let this happen; the picture is as wide as the wider plot all the same.
+void tst_saved_image::plots_of_different_widths()
+{
+    window_driver driver;
+    driver.open("x_K.wel", node_file(9));
+    driver.upper->resize(500, 150);
+    const QImage upper = rendered(driver.upper);
+    const QImage lower = rendered(driver.lower);
+    save(driver);
+    const QImage image = saved(driver.folder.filePath("x_K.png"));
+    QCOMPARE(image.size(), QSize(681, 531));
+    QCOMPARE(image.copy(0, 0, 500, 150), upper);
+    QCOMPARE(image.copy(0, 150, 681, 381), lower);
 }
 
 void tst_saved_image::lower_plot_only_data()

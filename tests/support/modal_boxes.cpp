@@ -11,6 +11,16 @@ bool is_selection_error(const shown_box& box)
            box.icon == QMessageBox::NoIcon && box.has_window_icon && box.was_modal;
 }
 
+QMessageBox* shared_box()
+{
+    QMessageBox* found = nullptr;
+    for (QWidget* widget : QApplication::topLevelWidgets()) {
+        if (auto* const box = qobject_cast<QMessageBox*>(widget))
+            found = box;
+    }
+    return found;
+}
+
 modal_boxes::modal_boxes()
 {
     QObject::connect(&watch, &QTimer::timeout, &watch, [this] { answer(); });

@@ -21,6 +21,9 @@ struct shown_box
 /// Whether a box is the one that asks for a selection, with "Ok" as its only button.
 bool is_selection_error(const shown_box& box);
 
+/// The box that the commands of a main window share, as long as no document has one of its own.
+QMessageBox* shared_box();
+
 /// Notes every modal message box that comes up while it lives, and closes it as a user does: with
 /// the Enter key.
 class modal_boxes
