@@ -53,6 +53,7 @@ public slots:
     void on_action_Orvan_Information_triggered();
     void on_action_Qt_Licensing_Information_triggered();
     void on_action_LGPLv3_triggered();
+    /// Opens the manual in a window of its own.
     void on_action_Handbuch_triggered();
     /// Empties both plots and the right-hand list. The trigger "list_item_changed" keeps the ranges
     /// of the axes that the user fixed, any other ("clear_btn") forgets them.
