@@ -1,15 +1,15 @@
 #include "app/style_sheet.h"
+#include "ui/application_icon.h"
 #include "ui/mainwindow.h"
 
 #include <QApplication>
 #include <QFile>
-#include <QIcon>
 #include <QStyleHints>
 
 int main(int argc, char** argv)
 {
     QApplication application(argc, argv);
-    const QIcon icon(QStringLiteral(":/icons/look_and_feel/orvan.ico"));
+    const QIcon icon = application_icon();
     QApplication::setWindowIcon(icon);
     // Asked, but not heeded: the desktop's own setting alone decides between light and dark.
     static_cast<void>(QGuiApplication::styleHints()->colorScheme());

@@ -36,6 +36,13 @@ DocuDialog::DocuDialog(QWidget* parent)
     splitter->setSizes({sidePanelWidth, width() - sidePanelWidth});
 }
 
+// What the children report while they go would reach a dialog that is half gone itself.
+DocuDialog::~DocuDialog()
+{
+    for (QObject* child : findChildren<QObject*>())
+        child->disconnect(this);
+}
+
 void DocuDialog::loadDocument(const QString& fileName, int page)
 {
     document->load(fileName);

@@ -28,6 +28,7 @@ class DocuDialog : public QDialog
 
 public:
     explicit DocuDialog(QWidget* parent);
+    ~DocuDialog() override;
 
     /// Shows the file, from a page on (counted from 0). A file that is missing or cannot be read
     /// gives an empty view.

@@ -21,7 +21,7 @@ void axis_dialog::set_label(const QString& text)
 {
     ui->label->setText(text);
     const QSize room(width() - ui->label->x(), height() - ui->label->y());
-    ui->label->resize(ui->label->sizeHint().expandedTo(smallest_label).boundedTo(room));
+    ui->label->resize(ui->label->sizeHint().boundedTo(room).expandedTo(smallest_label));
 }
 
 void axis_dialog::set_min(double value)

@@ -1,11 +1,10 @@
 #include "ui/mainwindow.h"
 
 #include "plot/korimo_plot.h"
+#include "ui/application_icon.h"
 #include "ui/axis_dialog.h"
 #include "ui/rename_dialog.h"
 #include "ui_mainwindow.h"
-
-#include <QIcon>
 
 #include <qwt_scale_draw.h>
 
@@ -31,7 +30,7 @@ MainWindow::MainWindow(QWidget* parent)
     setFixedSize(941, 848);
     setAcceptDrops(true);
 
-    const QIcon icon(QStringLiteral(":/icons/look_and_feel/orvan.ico"));
+    const QIcon icon = application_icon();
     setWindowIcon(icon);
     range_dialog = new axis_dialog(nullptr);
     range_dialog->setWindowIcon(icon);
@@ -108,7 +107,7 @@ void MainWindow::show_selection_error(box_buttons buttons)
         message_box.setStandardButtons(QMessageBox::Ok);
     message_box.setDetailedText(QString());
     message_box.setWindowTitle(QStringLiteral("Error"));
-    message_box.setWindowIcon(QIcon(QStringLiteral(":/icons/look_and_feel/orvan.ico")));
+    message_box.setWindowIcon(application_icon());
     message_box.setText(QStringLiteral("Pleae select one file"));
     message_box.exec();
 }

@@ -58,6 +58,7 @@ public slots:
     /// Empties both plots and the right-hand list. The trigger "list_item_changed" keeps the ranges
     /// of the axes that the user fixed, any other ("clear_btn") forgets them.
     void clear_plots(QString trigger);
+    /// Notes a range (minimum, maximum) as the last one applied.
     void set_min_max(QList<double> min_max);
     /// These five let the user fix the range of one axis.
     void on_action_y_achse_unten_triggered();

@@ -1,9 +1,9 @@
 #include "ui/mainwindow.h"
 
+#include "ui/application_icon.h"
 #include "ui/image_file_name.h"
 #include "ui_mainwindow.h"
 
-#include <QIcon>
 #include <QPainter>
 #include <QPixmap>
 
@@ -52,7 +52,7 @@ void MainWindow::on_action_speicher_triggered()
     // Deliberate: the box names the file that was meant, whatever became of it.
     picture.save(file, "PNG");
     QMessageBox box;
-    box.setWindowIcon(QIcon(QStringLiteral(":/icons/look_and_feel/orvan.ico")));
+    box.setWindowIcon(application_icon());
     box.setText(QStringLiteral("File saved to ") + file);
     box.exec();
 }

@@ -7,7 +7,7 @@
 
 namespace {
 
-// The text of one of the built-in licence files, or a message if it cannot be opened.
+// One of the built-in texts about the program; a message and nothing if it cannot be opened.
 std::optional<QString> built_in_text(const QString& name, QWidget* parent)
 {
     QFile file(QStringLiteral(":/licenses/look_and_feel/") + name);

@@ -11,7 +11,8 @@ void MainWindow::on_actionZeitreihe_change_names_triggered()
     names_dialog->set_old_names(document->get_curve_names());
     names_dialog->exec();
     const QStringList new_names = names_dialog->get_new_names();
-    if (new_names.isEmpty()) // left without "OK": what was typed stays for the next time
+    // Left without "OK" (or without rows): what was typed stays for the next time.
+    if (new_names.isEmpty())
         return;
     names_dialog->clear_names();
     document->set_curve_names(new_names);

@@ -22,7 +22,7 @@ public:
     /// Makes one row for each name. Texts already typed into the second column stay.
     void set_old_names(const QStringList& curve_names);
     /// What "OK" has collected since `clear_names`: one entry for each row, empty where nothing was
-    /// typed. Empty if the dialog was left by other ways.
+    /// typed. None if there are no rows, or the dialog was left by other ways.
     QStringList get_new_names() const { return new_names; }
     /// Forgets what was collected, and all rows.
     void clear_names();

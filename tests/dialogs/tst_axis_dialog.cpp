@@ -4,10 +4,11 @@
 #include <QDialogButtonBox>
 #include <QDoubleSpinBox>
 #include <QLabel>
-#include <QLineEdit>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QTest>
+
+#include <functional>
 
 namespace {
 
@@ -54,6 +55,7 @@ private slots:
     void label_grows_with_its_text_data();
     void label_grows_with_its_text();
     void label_stays_inside_the_dialog();
+    void label_is_never_smaller_than_in_the_form();
     void values_data();
     void values();
     void range_is_read_as_it_stands();
@@ -143,6 +145,16 @@ void tst_axis_dialog::label_stays_inside_the_dialog()
     QCOMPARE(shown.label->geometry(), QRect(60, 20, 260, 220));
 }
 
+void tst_axis_dialog::label_is_never_smaller_than_in_the_form()
+{
+    shown_dialog shown;
+    for (const int width : {100, 61, 40}) {
+        shown.dialog.resize(width, 240);
+        shown.dialog.set_label("X-Achse oberer Plot");
+        QCOMPARE(shown.label->geometry(), QRect(60, 20, 51, 31));
+    }
+}
+
 void tst_axis_dialog::values_data()
 {
     QTest::addColumn<double>("value");
@@ -218,15 +230,16 @@ void tst_axis_dialog::log_lines()
     shown_dialog shown;
     const log_capture log;
     shown.dialog.set_min(-2);
-    shown.dialog.set_max(12.5);
-    QCOMPARE(log_capture::debug_lines(), (QStringList{"setting min:  -2", "setting max:  12.5"}));
+    shown.dialog.set_max(2.5e7);
+    QCOMPARE(log_capture::debug_lines(),
+             (QStringList{"setting min:  -2", "setting max:  2.5e+07"}));
     shown.dialog.get_min();
     shown.dialog.get_max();
     QCOMPARE(log_capture::debug_lines().mid(2), (QStringList{"returning min", "returning max"}));
     shown.dialog.get_min_max_vals();
     QCOMPARE(
         log_capture::debug_lines().mid(4),
-        (QStringList{"returning min", "returning max", "min: 0", "max: 12.5", "QList(0, 12.5)"}));
+        (QStringList{"returning min", "returning max", "min: 0", "max: 1e+07", "QList(0, 1e+07)"}));
 }
 
 // "OK" reads the values once by itself; "Cancel" does not.

@@ -1,11 +1,13 @@
+#include "tests/support/rename_driver.h"
 #include "ui/rename_dialog.h"
 
-#include <QHeaderView>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QTableWidget>
 #include <QTest>
+
+#include <functional>
 
 namespace {
 
@@ -19,34 +21,6 @@ struct shown_dialog
     {
         dialog.show();
         dialog.activateWindow();
-    }
-
-    // Opens a cell for editing and types, without leaving it.
-    void type(int row, int column, const QString& text) const
-    {
-        const QPoint place = table->visualRect(table->model()->index(row, column)).center();
-        QTest::mouseClick(table->viewport(), Qt::LeftButton, Qt::NoModifier, place);
-        QTest::mouseDClick(table->viewport(), Qt::LeftButton, Qt::NoModifier, place);
-        auto* const editor = table->viewport()->findChild<QLineEdit*>();
-        QVERIFY(editor);
-        editor->selectAll();
-        QTest::keyClicks(editor, text);
-    }
-
-    void type_and_leave(int row, int column, const QString& text) const
-    {
-        type(row, column, text);
-        QTest::keyClick(table->viewport()->findChild<QLineEdit*>(), Qt::Key_Tab);
-    }
-
-    QStringList column(int which) const
-    {
-        QStringList texts;
-        for (int row = 0; row < table->rowCount(); ++row) {
-            const QTableWidgetItem* const item = table->item(row, which);
-            texts.append(item ? item->text() : QString("none"));
-        }
-        return texts;
     }
 
     rename_dialog dialog{nullptr};
@@ -71,6 +45,7 @@ private slots:
     void old_names_can_be_edited_without_effect();
     void nothing_typed();
     void one_name_typed();
+    void blanks_belong_to_a_name();
     void cell_being_edited_counts_data();
     void cell_being_edited_counts();
     void enter_in_a_cell_keeps_the_dialog_open();
@@ -119,8 +94,8 @@ void tst_rename_dialog::one_row_for_each_name()
 {
     shown_dialog shown;
     shown.dialog.set_old_names(old_names);
-    QCOMPARE(shown.column(0), old_names);
-    QCOMPARE(shown.column(1), QStringList(4, "none"));
+    QCOMPARE(texts_of_column(shown.dialog, 0), old_names);
+    QCOMPARE(texts_of_column(shown.dialog, 1), QStringList(4, ""));
     QCOMPARE(shown.table->item(0, 0)->flags(), QTableWidgetItem().flags());
     QCOMPARE(shown.table->item(0, 0)->type(), 0);
 }
@@ -129,8 +104,8 @@ void tst_rename_dialog::old_names_can_be_edited_without_effect()
 {
     shown_dialog shown;
     shown.dialog.set_old_names(old_names);
-    shown.type_and_leave(1, 0, "edited");
-    QCOMPARE(shown.column(0)[1], "edited");
+    fill_cell(shown.dialog, 1, 0, "edited");
+    QCOMPARE(texts_of_column(shown.dialog, 0)[1], "edited");
     QTest::mouseClick(shown.ok, Qt::LeftButton);
     QCOMPARE(shown.dialog.get_new_names(), QStringList(4, ""));
 }
@@ -150,9 +125,18 @@ void tst_rename_dialog::one_name_typed()
 {
     shown_dialog shown;
     shown.dialog.set_old_names(old_names);
-    shown.type_and_leave(1, 1, "Q Überlauf");
+    fill_cell(shown.dialog, 1, 1, "Q Überlauf");
     QTest::mouseClick(shown.ok, Qt::LeftButton);
     QCOMPARE(shown.dialog.get_new_names(), (QStringList{"", "Q Überlauf", "", ""}));
+}
+
+void tst_rename_dialog::blanks_belong_to_a_name()
+{
+    shown_dialog shown;
+    shown.dialog.set_old_names(old_names);
+    fill_cell(shown.dialog, 0, 1, "  Q  ");
+    QTest::mouseClick(shown.ok, Qt::LeftButton);
+    QCOMPARE(shown.dialog.get_new_names()[0], "  Q  ");
 }
 
 void tst_rename_dialog::cell_being_edited_counts_data()
@@ -171,7 +155,7 @@ void tst_rename_dialog::cell_being_edited_counts()
     QFETCH(bool, by_mouse);
     shown_dialog shown;
     shown.dialog.set_old_names(old_names);
-    shown.type(row, 1, "still open");
+    type_into_cell(shown.dialog, row, 1, "still open");
     if (by_mouse)
         QTest::mouseClick(shown.ok, Qt::LeftButton);
     else
@@ -183,11 +167,11 @@ void tst_rename_dialog::enter_in_a_cell_keeps_the_dialog_open()
 {
     shown_dialog shown;
     shown.dialog.set_old_names(old_names);
-    shown.type(2, 1, "new");
-    QTest::keyClick(shown.table->viewport()->findChild<QLineEdit*>(), Qt::Key_Return);
-    QTRY_VERIFY(!shown.table->viewport()->findChild<QLineEdit*>());
+    type_into_cell(shown.dialog, 2, 1, "new");
+    QTest::keyClick(open_editor(shown.dialog), Qt::Key_Return);
+    QTRY_VERIFY(!open_editor(shown.dialog));
     QVERIFY(shown.dialog.isVisible());
-    QCOMPARE(shown.column(1), (QStringList{"none", "none", "new", "none"}));
+    QCOMPARE(texts_of_column(shown.dialog, 1), (QStringList{"", "", "new", ""}));
 }
 
 void tst_rename_dialog::leaving_without_ok_data()
@@ -206,24 +190,24 @@ void tst_rename_dialog::leaving_without_ok()
     QFETCH(std::function<void(shown_dialog&)>, leave);
     shown_dialog shown;
     shown.dialog.set_old_names(old_names);
-    shown.type_and_leave(1, 1, "new");
+    fill_cell(shown.dialog, 1, 1, "new");
     leave(shown);
     QVERIFY(!shown.dialog.isVisible());
     QVERIFY(shown.dialog.get_new_names().isEmpty());
     QCOMPARE(shown.table->rowCount(), 4);
-    QCOMPARE(shown.column(1)[1], "new");
+    QCOMPARE(texts_of_column(shown.dialog, 1)[1], "new");
 }
 
 void tst_rename_dialog::typed_names_stay_for_the_next_time()
 {
     shown_dialog shown;
     shown.dialog.set_old_names(old_names);
-    shown.type_and_leave(1, 1, "new");
+    fill_cell(shown.dialog, 1, 1, "new");
     QTest::mouseClick(shown.cancel, Qt::LeftButton);
     shown.dialog.set_old_names({"a", "b", "c"});
     shown.dialog.show();
-    QCOMPARE(shown.column(0), (QStringList{"a", "b", "c"}));
-    QCOMPARE(shown.column(1), (QStringList{"none", "new", "none"}));
+    QCOMPARE(texts_of_column(shown.dialog, 0), (QStringList{"a", "b", "c"}));
+    QCOMPARE(texts_of_column(shown.dialog, 1), (QStringList{"", "new", ""}));
     QTest::mouseClick(shown.ok, Qt::LeftButton);
     QCOMPARE(shown.dialog.get_new_names(), (QStringList{"", "new", ""}));
 }
@@ -232,7 +216,7 @@ void tst_rename_dialog::names_add_up_until_they_are_cleared()
 {
     shown_dialog shown;
     shown.dialog.set_old_names({"a", "b"});
-    shown.type_and_leave(0, 1, "new");
+    fill_cell(shown.dialog, 0, 1, "new");
     shown.dialog.fetch_all_rows();
     shown.dialog.fetch_all_rows();
     QCOMPARE(shown.dialog.get_new_names(), (QStringList{"new", "", "new", ""}));
@@ -242,23 +226,23 @@ void tst_rename_dialog::clearing()
 {
     shown_dialog shown;
     shown.dialog.set_old_names(old_names);
-    shown.type_and_leave(0, 1, "new");
+    fill_cell(shown.dialog, 0, 1, "new");
     QTest::mouseClick(shown.ok, Qt::LeftButton);
     shown.dialog.clear_names();
     QVERIFY(shown.dialog.get_new_names().isEmpty());
     QCOMPARE(shown.table->rowCount(), 0);
     shown.dialog.set_old_names(old_names);
-    QCOMPARE(shown.column(1), QStringList(4, "none"));
+    QCOMPARE(texts_of_column(shown.dialog, 1), QStringList(4, ""));
 }
 
 void tst_rename_dialog::fewer_names_than_before()
 {
     shown_dialog shown;
     shown.dialog.set_old_names(old_names);
-    shown.type_and_leave(3, 1, "new");
+    fill_cell(shown.dialog, 3, 1, "new");
     shown.dialog.set_old_names({"a", "b"});
     shown.dialog.set_old_names(old_names);
-    QCOMPARE(shown.column(1), QStringList(4, "none"));
+    QCOMPARE(texts_of_column(shown.dialog, 1), QStringList(4, ""));
 }
 
 void tst_rename_dialog::no_names()

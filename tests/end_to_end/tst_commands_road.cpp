@@ -21,6 +21,7 @@ private slots:
 private:
     void plot(const QStringList& examples);
     void set_range(const QString& command, const QString& minimum, const QString& maximum);
+    QImage save_picture(const QString& name);
     void open_info(int entry, const QString& title);
 };
 
@@ -37,6 +38,9 @@ constexpr QPoint rename_ok(270, 270);
 // What stands to the left of both canvases, and below the lower one.
 constexpr QRect lower_left_axis(30, 270, 85, 300);
 constexpr QRect lower_legend(600, 260, 110, 60);
+
+constexpr QRect upper_of_picture(0, 0, 681, 200);
+constexpr QRect lower_legend_of_picture(600, 230, 81, 60);
 
 } // namespace
 
@@ -82,7 +86,7 @@ void tst_commands_road::axes_by_mouse_and_keyboard()
     QCOMPARE(program->look(place::lower_plot), lower_fixed);
     QVERIFY(program->look(place::upper_plot) != upper_fixed);
     keep_screenshot("ranges");
-    // The dialog shows what is set: confirming it again changes nothing.
+    // The dialog shows what is set: leaving it again changes nothing.
     const QImage before = program->look(place::lower_plot);
     program->click_in_window(plan->tool_button("y-Achse_unten").center());
     QVERIFY(viewer::sees_window(range_title));
@@ -108,6 +112,21 @@ void tst_commands_road::hidden_axis()
     const QImage before = program->look(place::upper_plot | place::lower_plot);
     set_range("2. X-Achse_unten", "5", "50");
     QCOMPARE(program->look(place::upper_plot | place::lower_plot), before);
+    // The dialog tells that the axis has been set all the same.
+    program->click_in_window(plan->tool_button("2. X-Achse_unten").center());
+    QVERIFY(viewer::sees_window(range_title));
+    const QImage shown_again = screenshot();
+    viewer::click_in_dialog(range_title, minimum_box);
+    program->key("ctrl+a");
+    program->type("5.000");
+    program->key("Tab");
+    program->key("ctrl+a");
+    program->type("50.000");
+    program->key("Escape");
+    program->click_in_window(plan->tool_button("2. X-Achse_unten").center());
+    QVERIFY(viewer::sees_window(range_title));
+    QCOMPARE(screenshot(), shown_again);
+    program->key("Escape");
 }
 
 void tst_commands_road::ranges_outlive_a_change_of_file()
@@ -127,10 +146,21 @@ void tst_commands_road::ranges_outlive_a_change_of_file()
     QVERIFY(program->look(lower_left_axis) != fixed);
 }
 
+// Answers the picture, once the box has told of it.
+QImage tst_commands_road::save_picture(const QString& name)
+{
+    program->choose_file_entry(1);
+    const bool saved = QTest::qWaitFor([&] { return QFile::exists(program->path_of(name)); });
+    keep_screenshot("saved");
+    program->key("Return");
+    return saved ? QImage(program->path_of(name)) : QImage();
+}
+
 void tst_commands_road::new_name_in_the_legend_and_the_picture()
 {
     plot({"Erlenbach_B1.wel"});
     const QImage legend = program->look(lower_legend);
+    const QImage old_picture = save_picture("Erlenbach_B1.png");
     program->click_in_window(plan->tool_button("Zeitreihen umbenennen").center());
     QVERIFY(viewer::sees_window(names_title));
     viewer::click_in_dialog(names_title, first_new_name, 2);
@@ -139,15 +169,12 @@ void tst_commands_road::new_name_in_the_legend_and_the_picture()
     viewer::click_in_dialog(names_title, rename_ok);
     QVERIFY(viewer::sees_no_window(names_title));
     QVERIFY(program->look(lower_legend) != legend);
-    program->choose_file_entry(1);
-    QTRY_VERIFY(QFile::exists(program->path_of("Erlenbach_B1.png")));
-    keep_screenshot("saved");
-    program->key("Return");
-    const QImage picture(program->path_of("Erlenbach_B1.png"));
+    const QImage picture = save_picture("Erlenbach_B1.png");
+    QVERIFY(picture.copy(lower_legend_of_picture) != old_picture.copy(lower_legend_of_picture));
+    QCOMPARE(picture.copy(upper_of_picture), old_picture.copy(upper_of_picture));
     QCOMPARE(picture.size(), QSize(681, 581));
-    const QRect upper(0, 0, 681, 200);
     const QRect lower(0, 200, 681, 381);
-    QVERIFY(pixels_of(picture, upper, red) > 100);
+    QVERIFY(pixels_of(picture, upper_of_picture, red) > 100);
     for (const QColor& colour : {blue, red, green})
         QVERIFY(pixels_of(picture, lower, colour) > 100);
     keep_picture(picture, "picture_of_B1");
@@ -161,10 +188,7 @@ void tst_commands_road::picture_of_a_basin()
     QTRY_VERIFY(program->sees(place::names, Qt::black) > 20);
     program->click(place::to_start_button.center());
     QTRY_VERIFY(program->sees(place::lower_plot, blue) > 100);
-    program->choose_file_entry(1);
-    QTRY_VERIFY(QFile::exists(program->path_of("B1   .png")));
-    program->key("Return");
-    QCOMPARE(QImage(program->path_of("B1   .png")).size(), QSize(681, 581));
+    QCOMPARE(save_picture("B1   .png").size(), QSize(681, 581));
 }
 
 void tst_commands_road::open_info(int entry, const QString& title)

@@ -12,6 +12,7 @@
 #include <QDialogButtonBox>
 #include <QDoubleSpinBox>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QTest>
 
@@ -59,11 +60,19 @@ void cancel(const axis_dialog& dialog)
     press(dialog, QDialogButtonBox::Cancel);
 }
 
+void type(QDoubleSpinBox& which, double value)
+{
+    QTest::mouseDClick(which.findChild<QLineEdit*>(), Qt::LeftButton);
+    which.selectAll();
+    QTest::keyClicks(&which, QString::number(value, 'f', 1));
+}
+
+// Types both bounds and clicks on "OK".
 std::function<void(axis_dialog&)> enter(double minimum, double maximum)
 {
     return [=](axis_dialog& dialog) {
-        box(dialog, "doubleSpinBox")->setValue(minimum);
-        box(dialog, "doubleSpinBox_2")->setValue(maximum);
+        type(*box(dialog, "doubleSpinBox"), minimum);
+        type(*box(dialog, "doubleSpinBox_2"), maximum);
         press(dialog, QDialogButtonBox::Ok);
     };
 }
@@ -214,9 +223,7 @@ void tst_axis_commands::escape_applies_what_was_entered()
     window_driver driver;
     driver.open("x_K.wel", node_file(9));
     trigger(driver, "actiony_Achse_oben", [](axis_dialog& dialog) {
-        box(dialog, "doubleSpinBox_2")->setFocus();
-        box(dialog, "doubleSpinBox_2")->selectAll();
-        QTest::keyClicks(box(dialog, "doubleSpinBox_2"), "12");
+        type(*box(dialog, "doubleSpinBox_2"), 12);
         QTest::keyClick(&dialog, Qt::Key_Escape);
     });
     QCOMPARE(ranges(driver)[2], QwtInterval(0, 12));

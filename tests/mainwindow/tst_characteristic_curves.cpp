@@ -69,6 +69,7 @@ private slots:
     void basin_file_that_vanished();
     void throttle_file_that_vanished();
     void file_that_was_read_counts();
+    void second_file_of_the_same_kind();
     void change_of_file_and_clear();
     void kept_range_does_not_outlive_a_name();
 };
@@ -350,6 +351,16 @@ void tst_characteristic_curves::file_that_was_read_counts()
     driver.press(driver.plot_name);
     QCOMPARE(driver.window.shown_document()->plot_mode, 9);
     QCOMPARE(drawn_number(driver), 3);
+}
+
+void tst_characteristic_curves::second_file_of_the_same_kind()
+{
+    window_driver driver;
+    driver.open("x.bek", basin_table());
+    driver.open("y.bek", basin_table().replace("2.00  ", "7.00  "));
+    driver.pick(1);
+    driver.press(driver.plot_name);
+    QCOMPARE(drawn_number(driver), 7);
 }
 
 void tst_characteristic_curves::change_of_file_and_clear()

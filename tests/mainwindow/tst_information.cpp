@@ -5,9 +5,19 @@
 #include <QAction>
 #include <QFile>
 #include <QPushButton>
-#include <QResource>
 #include <QTest>
 #include <QTextEdit>
+
+// These macros cannot stand inside of a namespace.
+static void remove_resources()
+{
+    Q_CLEANUP_RESOURCE(korimo);
+}
+
+static void bring_resources_back()
+{
+    Q_INIT_RESOURCE(korimo);
+}
 
 namespace {
 
@@ -42,6 +52,8 @@ private slots:
     void licence_keeps_what_the_box_had();
     void licence_after_a_selection_error();
     void selection_error_after_the_licence();
+    void without_the_texts_data();
+    void without_the_texts();
     void parents_of_the_boxes_data();
     void parents_of_the_boxes();
 };
@@ -85,6 +97,7 @@ void tst_information::licence()
                             "The button Show Details will display the LGPLv3 license text");
     QCOMPARE(boxes[0].detailed_text, text_of(licence_path));
     QVERIFY(boxes[0].detailed_text.startsWith("                   GNU LESSER GENERAL PUBLIC"));
+    QCOMPARE(boxes[0].informative_text, "");
     QCOMPARE(boxes[0].icon, QMessageBox::NoIcon);
     QVERIFY(boxes[0].was_modal);
 }
@@ -160,6 +173,28 @@ void tst_information::selection_error_after_the_licence()
     driver.window.findChild<QAction*>("actionLGPLv3")->trigger();
     driver.press(driver.remove); // nothing is selected
     QVERIFY(is_selection_error(boxes.shown()[3]));
+}
+
+void tst_information::without_the_texts_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::newRow("actionOrvan_Information") << "Datei Orvan_Info.txt kann nicht geöffnet werden!";
+    QTest::newRow("actionLGPLv3") << "Datei LICENSE.LGPLv3 kann nicht geöffnet werden!";
+}
+
+void tst_information::without_the_texts()
+{
+    QFETCH(QString, text);
+    const window_driver driver;
+    remove_resources();
+    const QList<shown_box> boxes = trigger(driver, QTest::currentDataTag());
+    bring_resources_back();
+    QCOMPARE(boxes.size(), 1);
+    QCOMPARE(boxes[0].title, "Error");
+    QCOMPARE(boxes[0].text, text);
+    QCOMPARE(boxes[0].buttons, QMessageBox::Ok);
+    QCOMPARE(boxes[0].icon, QMessageBox::Critical);
+    QVERIFY(boxes[0].was_modal && boxes[0].has_parent);
 }
 
 void tst_information::parents_of_the_boxes_data()

@@ -7,12 +7,15 @@
 #include "tests/support/write_file.h"
 
 #include <qwt_plot.h>
+#include <qwt_plot_curve.h>
 #include <qwt_text.h>
 
 #include <QApplication>
+#include <QDir>
 #include <QHash>
 #include <QListWidget>
 #include <QPushButton>
+#include <QSet>
 #include <QTest>
 
 namespace {
@@ -22,7 +25,7 @@ int walk_length()
 {
     bool is_number = false;
     const int wanted = qEnvironmentVariableIntValue("KORIMO_WALK", &is_number);
-    return is_number ? wanted : 5000;
+    return is_number && wanted > 0 ? wanted : 5000;
 }
 
 QByteArray rows_of(int columns)
@@ -34,11 +37,21 @@ QByteArray rows_of(int columns)
 void write_files(const QTemporaryDir& folder)
 {
     const QList<std::pair<const char*, QByteArray>> files{
-        {"a_K.wel", node_file(9)}, {"b_N.wel", node_file(90)},   {"c_B.wel", rows_of(7)},
-        {"d_B.wel", rows_of(9)},   {"e_T.wel", rows_of(10)},     {"f_V.wel", rows_of(4)},
-        {"g_P.wel", rows_of(3)},   {"h_E.wel", rows_of(2)},      {"i.wel", rows_of(3)},
-        {"j_P.wel", ""},           {"k.bek", basin_table()},     {"l.dkl", throttle_curves()},
-        {"o.BEK", basin_table()},  {"p.Dkl", throttle_curves()}, {"m.bek", "nothing\n"},
+        {"a_K.wel", node_file(9)},
+        {"b_N.wel", node_file(90)},
+        {"c_B.wel", rows_of(7)},
+        {"d_B.wel", rows_of(9)},
+        {"e_T.wel", rows_of(10)},
+        {"f_V.wel", rows_of(4)},
+        {"g_P.wel", rows_of(3)},
+        {"h_E.wel", rows_of(2)},
+        {"i.wel", rows_of(3)},
+        {"j_P.wel", ""},
+        {"k.bek", basin_table()},
+        {"l.dkl", throttle_curves()},
+        {"o.BEK", basin_table().replace("2.00  ", "7.00  ")},
+        {"p.Dkl", throttle_curves().replace("9.5", "8.5")},
+        {"m.bek", "nothing\n"},
         {"n.txt", basin_table()},
     };
     for (const auto& [name, bytes] : files)
@@ -74,49 +87,45 @@ bool is_finished(const QwtPlot* plot, qsizetype curves)
            plot->itemList(QwtPlotItem::Rtti_PlotGrid).size() == 1 && plot->legend();
 }
 
-// Whether a document holds what reading one of the names must give.
-bool holds_one_of(const korimo_plot& document, const QString& path, const QStringList& names)
+literal_reading read_name_literally(const QString& path, const QString& name)
 {
-    return std::ranges::any_of(names, [&](const QString& name) {
-        const literal_reading expected = document.plot_mode == 9 ? read_bek_literally(path, name)
-                                                                 : read_dkl_literally(path, name);
-        return document.series == expected.series && document.wel_title == expected.wel_title;
-    });
+    return path.endsWith("bek", Qt::CaseInsensitive) ? read_bek_literally(path, name)
+                                                     : read_dkl_literally(path, name);
 }
 
-// What is wrong with the window, or nothing.
-QString fault_of(const window_driver& driver)
+QString fault_without_document(const window_driver& driver)
 {
-    const korimo_plot* const document = driver.window.shown_document();
-    const QString text = driver.button->text();
     const QList<QListWidgetItem*> selected = driver.list->selectedItems();
-    const QStringList names = texts_of(driver.names);
-    if (QApplication::activeModalWidget())
-        return "a dialog is left";
-    if ((text == "Clear") != (document != nullptr))
-        return "the button and the document disagree";
-    if (!document)
-        return !names.isEmpty()                                   ? "names without a document"
-               : !is_bare(driver.lower) || !is_bare(driver.upper) ? "a plot is not bare"
-               : text != "Plot" && text != "Read"                 ? "the button has another text"
-                                                                  : "";
-    if (selected.size() != 1)
-        return "a document without a selected file";
-    const QString path = selected[0]->text();
-    const literal_reading file = read_literally(path);
-    if (names != file.kennlinien_list && !path.endsWith("wel"))
-        return "the names are not those of the file";
-    if (is_bare(driver.lower) && is_bare(driver.upper) && !path.endsWith("wel"))
-        return ""; // read, and no name drawn yet
-    const auto [lower, upper] = curve_counts(document->plot_mode);
-    if (!is_finished(driver.lower, lower) || !is_finished(driver.upper, upper))
-        return "the plots have other curves than the document";
-    if (path.endsWith("wel"))
-        return !names.isEmpty()                                      ? "names of a hydrograph"
-               : dump(*document) != dump(file)                       ? "another file's document"
-               : driver.lower->title().text() != document->wel_title ? "another file's title"
-                                                                     : "";
-    return holds_one_of(*document, path, names) ? "" : "a curve that has no name";
+    if (driver.names->count() > 0)
+        return "names without a document";
+    if (!is_bare(driver.lower) || !is_bare(driver.upper))
+        return "a plot is not bare";
+    const QString text = driver.button->text();
+    if (selected.size() == 1)
+        return text == (selected[0]->text().endsWith("wel") ? "Plot" : "Read") ? "" : "button text";
+    return text == "Plot" || text == "Read" ? "" : "the button has another text";
+}
+
+QString fault_of_hydrographs(const window_driver& driver, const literal_reading& file)
+{
+    const korimo_plot& document = *driver.window.shown_document();
+    if (driver.names->count() > 0)
+        return "names of a hydrograph";
+    if (dump(document) != dump(file))
+        return "another file's document";
+    return driver.lower->title().text() == document.wel_title ? "" : "another file's title";
+}
+
+// Curves whose names can be changed have the names that the document keeps.
+QString fault_of_names(const korimo_plot& document)
+{
+    for (std::size_t i = 0; i < document.curves.size(); ++i) {
+        const QString& title = document.curve_title[i];
+        if (title != "Nothing" &&
+            (document.curves[i]->title().text() != title || !document.curve_names.contains(title)))
+            return "a curve has another name than the document keeps";
+    }
+    return "";
 }
 
 } // namespace
@@ -129,7 +138,58 @@ class tst_random_walk : public QObject
 private slots:
     void walk_data();
     void walk();
+
+private:
+    QString fault_of(const window_driver& driver);
+    QString fault_of_characteristic_curve(const window_driver& driver, const QString& path);
+
+    QString drawn_name; // in a file of names
 };
+
+// What is wrong with the window, or nothing.
+QString tst_random_walk::fault_of(const window_driver& driver)
+{
+    const korimo_plot* const document = driver.window.shown_document();
+    const QList<QListWidgetItem*> selected = driver.list->selectedItems();
+    QStringList files = texts_of(driver.list);
+    if (QApplication::activeModalWidget())
+        return "a dialog is left";
+    if (files.removeDuplicates() > 0)
+        return "a file is listed twice";
+    if ((driver.button->text() == "Clear") != (document != nullptr))
+        return "the button and the document disagree";
+    if (!document)
+        return fault_without_document(driver);
+    if (selected.size() != 1)
+        return "a document without a selected file";
+    const QString path = selected[0]->text();
+    const literal_reading file = read_literally(path);
+    if (!path.endsWith("wel") && texts_of(driver.names) != file.kennlinien_list)
+        return "the names are not those of the file";
+    if (!path.endsWith("wel") && document->plot_mode == -1)
+        return is_bare(driver.lower) && is_bare(driver.upper) ? "" : "drawn without a name";
+    const auto [lower, upper] = curve_counts(document->plot_mode);
+    if (!is_finished(driver.lower, lower) || !is_finished(driver.upper, upper))
+        return "the plots have other curves than the document";
+    const QString fault = path.endsWith("wel") ? fault_of_hydrographs(driver, file)
+                                               : fault_of_characteristic_curve(driver, path);
+    return fault.isEmpty() ? fault_of_names(*document) : fault;
+}
+
+// A document that is new was made for the name that is selected now.
+QString tst_random_walk::fault_of_characteristic_curve(const window_driver& driver,
+                                                       const QString& path)
+{
+    korimo_plot& document = *driver.window.shown_document();
+    if (!document.property("seen").toBool())
+        drawn_name = driver.names->currentItem()->text();
+    document.setProperty("seen", true);
+    const literal_reading expected = read_name_literally(path, drawn_name);
+    const bool same = document.plot_mode == expected.plot_mode &&
+                      document.series == expected.series &&
+                      document.wel_title == expected.wel_title;
+    return same ? "" : "another curve than the one that was chosen";
+}
 
 void tst_random_walk::walk_data()
 {
@@ -145,11 +205,11 @@ void tst_random_walk::walk()
     window_driver driver;
     write_files(driver.folder);
     random_user user(driver, seed);
-    QHash<QString, int> done;
+    QSet<QString> done;
     int documents = 0;
     for (int step = 0; step < walk_length(); ++step) {
         const QString action = user.act();
-        ++done[action];
+        done.insert(action);
         documents += driver.window.shown_document() ? 1 : 0;
         const QString fault = fault_of(driver);
         QVERIFY2(fault.isEmpty(),
@@ -157,8 +217,9 @@ void tst_random_walk::walk()
         QVERIFY(driver.window.isVisible());
     }
     // A walk past an empty window would show little.
-    QVERIFY2(documents > walk_length() / 3,
-             qPrintable(QString("%1 with a document").arg(documents)));
+    QVERIFY2(documents > walk_length() / 3, QByteArray::number(documents));
+    QCOMPARE(done.size(), random_user::kinds_of_action());
+    QVERIFY(!QDir(driver.folder.path()).entryList({"*.png"}).isEmpty());
 }
 
 QTEST_MAIN(tst_random_walk)

@@ -1,6 +1,7 @@
 #include "plot/korimo_plot.h"
 #include "tests/support/modal_answer.h"
 #include "tests/support/named_curves.h"
+#include "tests/support/rename_driver.h"
 #include "ui/rename_dialog.h"
 
 #include <qwt_legend.h>
@@ -16,33 +17,12 @@
 
 namespace {
 
-QTableWidget& table_of(const rename_dialog& dialog)
-{
-    return *dialog.findChild<QTableWidget*>("tableWidget");
-}
-
-// Types into the column of the new names, and leaves the cell.
-void type(const rename_dialog& dialog, int row, const QString& name)
-{
-    table_of(dialog).setItem(row, 1, new QTableWidgetItem(name));
-}
-
 void press(const rename_dialog& dialog, const char* text)
 {
     for (auto* button : dialog.findChildren<QPushButton*>()) {
         if (button->text() == text)
             QTest::mouseClick(button, Qt::LeftButton);
     }
-}
-
-QStringList column(const rename_dialog& dialog, int which)
-{
-    QStringList texts;
-    for (int row = 0; row < table_of(dialog).rowCount(); ++row) {
-        const QTableWidgetItem* const item = table_of(dialog).item(row, which);
-        texts.append(item ? item->text() : QString());
-    }
-    return texts;
 }
 
 // Runs the command; answers how often its dialog came up.
@@ -87,6 +67,7 @@ class tst_rename_command : public QObject
 private slots:
     void without_a_document();
     void names_are_offered_and_taken();
+    void cell_still_being_edited();
     void one_name_only();
     void no_name_at_all();
     void cancelled_names_wait();
@@ -108,10 +89,10 @@ void tst_rename_command::names_are_offered_and_taken()
     window_driver driver;
     driver.open("x_B.wel", basin_file);
     const int count = rename(driver, [](rename_dialog& dialog) {
-        QCOMPARE(column(dialog, 0), basin_names);
+        QCOMPARE(texts_of_column(dialog, 0), basin_names);
         QVERIFY(dialog.isModal() && !dialog.windowIcon().isNull());
         for (int row = 0; row < 4; ++row)
-            type(dialog, row, QString("Name %1").arg(row));
+            fill_cell(dialog, row, 1, QString("Name %1").arg(row));
         press(dialog, "OK");
         QCOMPARE(table_of(dialog).rowCount(), 4); // cleared after the dialog has closed
     });
@@ -123,10 +104,21 @@ void tst_rename_command::names_are_offered_and_taken()
     QCOMPARE(legend_texts(driver.lower), (QStringList{"Name 0", "Name 1", "Name 3"}));
     QCOMPARE(legend_texts(driver.upper), QStringList{"Name 2"});
     rename(driver, [&](rename_dialog& dialog) {
-        QCOMPARE(column(dialog, 0), names);
-        QCOMPARE(column(dialog, 1), QStringList(4, ""));
+        QCOMPARE(texts_of_column(dialog, 0), names);
+        QCOMPARE(texts_of_column(dialog, 1), QStringList(4, ""));
         press(dialog, "Cancel");
     });
+}
+
+void tst_rename_command::cell_still_being_edited()
+{
+    window_driver driver;
+    driver.open("x_B.wel", basin_file);
+    rename(driver, [](rename_dialog& dialog) {
+        type_into_cell(dialog, 3, 1, "open");
+        press(dialog, "OK");
+    });
+    QCOMPARE(curve_titles(driver)[3], "open");
 }
 
 void tst_rename_command::one_name_only()
@@ -134,7 +126,7 @@ void tst_rename_command::one_name_only()
     window_driver driver;
     driver.open("x_B.wel", basin_file);
     rename(driver, [](rename_dialog& dialog) {
-        type(dialog, 1, "new");
+        fill_cell(dialog, 1, 1, "new");
         press(dialog, "OK");
     });
     QCOMPARE(curve_titles(driver), (QStringList{"Qein", "new", "V   ", "QG"}));
@@ -158,7 +150,7 @@ void tst_rename_command::cancelled_names_wait()
     driver.open("x_B.wel", basin_file);
     for (const bool escape : {false, true}) {
         rename(driver, [&](rename_dialog& dialog) {
-            type(dialog, 1, "new");
+            fill_cell(dialog, 1, 1, "new");
             if (escape)
                 QTest::keyClick(&dialog, Qt::Key_Escape);
             else
@@ -167,7 +159,7 @@ void tst_rename_command::cancelled_names_wait()
         QCOMPARE(curve_titles(driver), basin_names);
     }
     rename(driver, [](rename_dialog& dialog) {
-        QCOMPARE(column(dialog, 1), (QStringList{"", "new", "", ""}));
+        QCOMPARE(texts_of_column(dialog, 1), (QStringList{"", "new", "", ""}));
         press(dialog, "OK");
     });
     QCOMPARE(curve_titles(driver), (QStringList{"Qein", "new", "V   ", "QG"}));
@@ -179,7 +171,7 @@ void tst_rename_command::names_are_collected_once_for_each_run()
     driver.open("x_B.wel", basin_file);
     for (const QString& name : {QString("first"), QString("second")}) {
         rename(driver, [&](rename_dialog& dialog) {
-            type(dialog, 0, name);
+            fill_cell(dialog, 0, 1, name);
             press(dialog, "OK");
         });
         QCOMPARE(curve_titles(driver), (QStringList{name, "Qab", "V   ", "QG"}));
@@ -195,7 +187,7 @@ void tst_rename_command::more_than_four_rows()
     rename(driver, [](rename_dialog& dialog) {
         QCOMPARE(table_of(dialog).rowCount(), 8);
         for (int row = 0; row < 8; ++row)
-            type(dialog, row, QString("Name %1").arg(row));
+            fill_cell(dialog, row, 1, QString("Name %1").arg(row));
         press(dialog, "OK");
     });
     QCOMPARE(curve_titles(driver), (QStringList{"Name 0", "Name 1", "Name 2", "Name 3"}));
@@ -220,8 +212,8 @@ void tst_rename_command::new_document_has_its_own_names()
     driver.open("x.dkl", throttle_curves());
     driver.press(navigation_button(driver, ">"));
     rename(driver, [](rename_dialog& dialog) {
-        QCOMPARE(column(dialog, 0), QStringList{"1.5_1_Auslass1"});
-        type(dialog, 0, "new");
+        QCOMPARE(texts_of_column(dialog, 0), QStringList{"1.5_1_Auslass1"});
+        fill_cell(dialog, 0, 1, "new");
         press(dialog, "OK");
     });
     QCOMPARE(curve_titles(driver)[0], "new");

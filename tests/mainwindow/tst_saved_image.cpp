@@ -1,14 +1,16 @@
 #include "plot/korimo_plot.h"
+#include "tests/support/modal_answer.h"
 #include "tests/support/modal_boxes.h"
 #include "tests/support/named_curves.h"
 #include "tests/support/write_file.h"
 #include "ui/image_file_name.h"
 
 #include <qwt_plot.h>
-#include <qwt_plot_curve.h>
 #include <qwt_plot_renderer.h>
 
 #include <QAction>
+#include <QDir>
+#include <QFileInfo>
 #include <QListWidget>
 #include <QPainter>
 #include <QTest>
@@ -39,7 +41,7 @@ QStringList save(const window_driver& driver)
     for (const shown_box& box : boxes.shown()) {
         texts.append(box.text);
         if (!box.title.isEmpty() || box.icon != QMessageBox::NoIcon || !box.has_window_icon ||
-            !box.was_modal || box.buttons != QMessageBox::Ok)
+            !box.was_modal || box.buttons != QMessageBox::Ok || box.has_parent)
             texts.append("a box with other properties");
     }
     return texts;
@@ -69,9 +71,11 @@ private slots:
     void basin();
     void throttle();
     void after_read();
+    void after_another_read();
+    void saved_before_the_box_shows();
     void saved_twice();
     void renamed_zoomed_and_fixed();
-    void folder_that_cannot_be_written();
+    void place_that_is_taken();
     void name_that_no_file_can_have();
     void without_a_current_file();
     void plots_look_the_same_afterwards();
@@ -211,6 +215,32 @@ void tst_saved_image::after_read()
     QCOMPARE(saved(file), rendered(driver.lower));
 }
 
+// The name that was drawn last still names the picture after another file has been read.
+void tst_saved_image::after_another_read()
+{
+    window_driver driver;
+    driver.open("model.dkl", throttle_curves());
+    driver.pick(1);
+    driver.press(driver.plot_name);
+    driver.open("other.bek", basin_table());
+    QCOMPARE(save(driver),
+             QStringList{"File saved to " + driver.folder.filePath("2.5_2_Auslass2.png")});
+}
+
+void tst_saved_image::saved_before_the_box_shows()
+{
+    window_driver driver;
+    driver.open("x_K.wel", node_file(9));
+    bool is_there = false;
+    const modal_answer<QMessageBox> user([&](QMessageBox& box) {
+        is_there = QFile::exists(driver.folder.filePath("x_K.png"));
+        box.close();
+    });
+    driver.window.findChild<QAction*>("action_speicher")->trigger();
+    QCOMPARE(user.count(), 1);
+    QVERIFY(is_there);
+}
+
 void tst_saved_image::saved_twice()
 {
     window_driver driver;
@@ -243,7 +273,7 @@ void tst_saved_image::renamed_zoomed_and_fixed()
 }
 
 // The box names the file that was meant.
-void tst_saved_image::folder_that_cannot_be_written()
+void tst_saved_image::place_that_is_taken()
 {
     window_driver driver;
     driver.open("x_K.wel", node_file(9));

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QApplication>
+#include <QTest>
 #include <QTimer>
 
 #include <functional>
@@ -29,6 +30,8 @@ private:
             return;
         ++answered;
         answer(*shown);
+        if (QTest::currentTestFailed()) // then the answer may have stopped half-way
+            shown->close();
     }
 
     std::function<void(dialog&)> answer;

@@ -32,8 +32,18 @@ void modal_boxes::answer()
     auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
     if (!box || !box->isVisible())
         return;
-    boxes.append({box->windowTitle(), box->text(), box->detailedText(), box->standardButtons(),
-                  box->icon(), !box->windowIcon().isNull(), box->isModal(),
-                  box->testAttribute(Qt::WA_SetWindowIcon), box});
+    shown_box seen;
+    seen.title = box->windowTitle();
+    seen.text = box->text();
+    seen.detailed_text = box->detailedText();
+    seen.buttons = box->standardButtons();
+    seen.icon = box->icon();
+    seen.has_window_icon = !box->windowIcon().isNull();
+    seen.was_modal = box->isModal();
+    seen.own_window_icon = box->testAttribute(Qt::WA_SetWindowIcon);
+    seen.has_parent = box->parentWidget() != nullptr;
+    seen.informative_text = box->informativeText();
+    seen.object = box;
+    boxes.append(seen);
     QTest::keyClick(box, Qt::Key_Return);
 }

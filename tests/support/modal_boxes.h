@@ -15,6 +15,8 @@ struct shown_box
     bool has_window_icon = false;
     bool was_modal = false;
     bool own_window_icon = false; ///< not only the application's
+    bool has_parent = false;
+    QString informative_text;
     const void* object = nullptr; ///< to tell boxes apart
 };
 

@@ -1,7 +1,9 @@
 #include "tests/support/random_user.h"
 
+#include "docu/docudialog.h"
 #include "tests/support/named_curves.h"
 #include "tests/support/random_choice.h"
+#include "tests/support/rename_driver.h"
 #include "ui/axis_dialog.h"
 #include "ui/rename_dialog.h"
 
@@ -14,6 +16,7 @@
 #include <QDragEnterEvent>
 #include <QDropEvent>
 #include <QFileDialog>
+#include <QLineEdit>
 #include <QListWidget>
 #include <QMessageBox>
 #include <QMimeData>
@@ -47,27 +50,39 @@ void click_any_button(QWidget& parent, QRandomGenerator& random)
         if (button->isVisible())
             shown.append(button);
     }
-    click(any_of(shown, random), QPoint(5, 5));
+    QPushButton* const button = any_of(shown, random);
+    click(button, button->rect().center());
 }
 
-void fill(axis_dialog& dialog, QRandomGenerator& random)
+void fill(const axis_dialog& dialog, QRandomGenerator& random)
 {
-    static const QList<double> values{0, 0.001, 1, 5, 72, 1000.5, 1e7};
+    static const QStringList values{"0", "0.001", "1", "5", "72", "1000.5", "10000000", "x", ""};
     for (auto* const box : dialog.findChildren<QDoubleSpinBox*>()) {
-        if (once_in(2, random))
-            box->setValue(any_of(values, random));
-        else
+        box->setFocus();
+        if (once_in(3, random)) {
             QTest::keyClick(box, once_in(2, random) ? Qt::Key_Up : Qt::Key_Down);
+        } else {
+            box->selectAll();
+            QTest::keyClicks(box, any_of(values, random));
+        }
     }
 }
 
+// The last cell may stay open.
 void fill(const rename_dialog& dialog, QRandomGenerator& random)
 {
-    auto* const table = dialog.findChild<QTableWidget*>();
-    for (int row = 0; row < table->rowCount(); ++row) {
+    for (int row = 0; row < table_of(dialog).rowCount(); ++row) {
         if (once_in(2, random))
-            table->setItem(row, random.bounded(2), new QTableWidgetItem("Name \u00e4"));
+            type_into_cell(dialog, row, random.bounded(2), once_in(3, random) ? " " : "Name");
     }
+}
+
+// Types the name of a file, and confirms or not.
+void fill(const QFileDialog& dialog, const QString& folder, QRandomGenerator& random)
+{
+    const QFileInfoList files = QDir(folder).entryInfoList(QDir::Files);
+    auto* const name = dialog.findChild<QLineEdit*>("fileNameEdit");
+    name->setText(once_in(5, random) ? QString("none") : any_of(files, random).filePath());
 }
 
 } // namespace
@@ -80,15 +95,9 @@ random_user::random_user(window_driver& driver, quint32 seed)
     watch.start(0);
 }
 
-QString random_user::act()
+const QList<random_user::choice>& random_user::choices()
 {
-    struct choice
-    {
-        const char* name;
-        action what;
-        int weight;
-    };
-    static const QList<choice> choices{
+    static const QList<choice> all{
         {"drop a file", &random_user::drop_file, 4},
         {"choose files", &random_user::choose_files, 1},
         {"select a file", &random_user::select_file, 6},
@@ -101,15 +110,27 @@ QString random_user::act()
         {"rename", &random_user::rename, 5},
         {"save", &random_user::save, 1},
         {"inform", &random_user::inform, 2},
+        {"read the manual", &random_user::read_manual, 1},
+        {"close and come back", &random_user::close_and_come_back, 1},
         {"zoom", &random_user::zoom, 5},
         {"pan", &random_user::pan, 3},
         {"press a key", &random_user::press_key, 10},
     };
+    return all;
+}
+
+qsizetype random_user::kinds_of_action()
+{
+    return choices().size();
+}
+
+QString random_user::act()
+{
     int sum = 0;
-    for (const choice& each : choices)
+    for (const choice& each : choices())
         sum += each.weight;
     int which = random.bounded(sum);
-    auto chosen = choices.begin();
+    auto chosen = choices().begin();
     for (; which >= chosen->weight; ++chosen)
         which -= chosen->weight;
     (this->*chosen->what)();
@@ -117,10 +138,15 @@ QString random_user::act()
     return chosen->name;
 }
 
+bool random_user::may_add() const
+{
+    return driver.list->count() < most_files;
+}
+
 void random_user::drop_file()
 {
     const QFileInfoList files = QDir(driver.folder.path()).entryInfoList(QDir::Files);
-    if (driver.list->count() >= most_files)
+    if (!may_add())
         return;
     QMimeData data;
     data.setUrls({QUrl::fromLocalFile(any_of(files, random).filePath())});
@@ -193,6 +219,22 @@ void random_user::inform()
     driver.window.findChild<QAction*>(any_of(actions, random))->trigger();
 }
 
+// Opens one more, or closes one.
+void random_user::read_manual()
+{
+    const QList<DocuDialog*> open = driver.window.findChildren<DocuDialog*>();
+    if (open.size() < 3)
+        driver.window.findChild<QAction*>("actionHandbuch")->trigger();
+    else
+        any_of(open, random)->close();
+}
+
+void random_user::close_and_come_back()
+{
+    driver.window.findChild<QAction*>("action_schliessen")->trigger();
+    driver.window.show();
+}
+
 void random_user::zoom()
 {
     QWidget* const canvas = (once_in(4, random) ? driver.upper : driver.lower)->canvas();
@@ -228,10 +270,8 @@ void random_user::answer()
     QWidget* const shown = QApplication::activeModalWidget();
     if (!shown || !shown->isVisible())
         return;
-    if (auto* const files = qobject_cast<QFileDialog*>(shown)) {
-        QTest::keyClick(files, Qt::Key_Escape);
-        return;
-    }
+    if (auto* const files = qobject_cast<QFileDialog*>(shown); files && may_add())
+        fill(*files, driver.folder.path(), random);
     if (auto* const range = qobject_cast<axis_dialog*>(shown))
         fill(*range, random);
     if (auto* const names = qobject_cast<rename_dialog*>(shown))
@@ -241,12 +281,15 @@ void random_user::answer()
 
 void random_user::answer_box(QWidget& box)
 {
-    switch (random.bounded(4)) {
+    switch (random.bounded(5)) {
     case 0:
         QTest::keyClick(&box, Qt::Key_Escape);
         break;
     case 1:
         box.close();
+        break;
+    case 2:
+        QTest::keyClick(&box, Qt::Key_Return);
         break;
     default:
         click_any_button(box, random);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QList>
 #include <QObject>
 #include <QRandomGenerator>
 #include <QTimer>
@@ -15,9 +16,16 @@ public:
 
     /// Does one thing and waits until its boxes are gone; answers what it was.
     QString act();
+    static qsizetype kinds_of_action();
 
 private:
-    using action = void (random_user::*)();
+    struct choice
+    {
+        const char* name;
+        void (random_user::*what)();
+        int weight; // how often it is done, beside the others
+    };
+    static const QList<choice>& choices();
 
     void drop_file();
     void choose_files();
@@ -31,10 +39,13 @@ private:
     void rename();
     void save();
     void inform();
+    void read_manual();
+    void close_and_come_back();
     void zoom();
     void pan();
     void press_key();
 
+    bool may_add() const;
     void answer();
     void answer_box(QWidget& box);
 
