@@ -173,9 +173,14 @@ void tst_docu_navigation::zoom_is_kept_by_jumps()
 {
     const docu_driver driver(with_bookmarks());
     driver.zoom->setCurrentText("50%");
+    const QPdfPageNavigator& navigator = *driver.view->pageNavigator();
+    driver.view->pageNavigator()->jump(0, QPointF(5, 5), 0.5);
     driver.action("Next Page")->trigger();
+    QCOMPARE(navigator.currentZoom(), 0.5);
     emit driver.bookmarks->activated(bookmark(driver, 1));
+    QCOMPARE(navigator.currentZoom(), 0.5);
     emit driver.thumbnails->activated(driver.thumbnails->model()->index(3, 0));
+    QCOMPARE(navigator.currentZoom(), 0.5);
     QCOMPARE(driver.view->zoomFactor(), 0.5);
     QCOMPARE(driver.zoom->currentText(), "50%");
 }
