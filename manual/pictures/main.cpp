@@ -1,0 +1,146 @@
+// Makes the pictures of the manual: manual_pictures FOLDER, in a folder that holds the examples as
+// "Erlenbach".
+
+#include "app/style_sheet.h"
+#include "docu/docudialog.h"
+#include "manual/pictures/stage.h"
+#include "plot/korimo_plot.h"
+#include "ui/application_icon.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QDir>
+#include <QDoubleSpinBox>
+#include <QFile>
+#include <QTableWidget>
+
+#include <qwt_plot.h>
+
+#include <cstdio>
+
+namespace {
+
+QDir target;
+bool all_saved = true;
+
+void save(const QPixmap& picture, const QString& name)
+{
+    all_saved = picture.save(target.filePath(name + ".png")) && all_saved;
+}
+
+std::function<void(QWidget&)> save_as(const QString& name)
+{
+    return [name](QWidget& shown) { save(shown.grab(), name); };
+}
+
+// What is drawn for each kind of element.
+void draw_hydrographs()
+{
+    for (const char* element : {"K1", "B1", "B2", "T1", "V1", "P1", "E1"}) {
+        stage scene;
+        scene.list({QString("Erlenbach_%1.wel").arg(element)});
+        scene.press("pushButton");
+        save(scene.plots(), QString("ganglinie_") + element);
+    }
+}
+
+void draw_window()
+{
+    stage scene;
+    save(scene.whole(), "fenster_leer");
+    scene.list({"Erlenbach_B1.wel", "Erlenbach.bek", "Erlenbach_K1.wel"});
+    save(scene.whole(), "fenster_dateien");
+    scene.press("pushButton");
+    save(scene.whole(), "fenster_ganglinie");
+}
+
+void draw_characteristic_curves()
+{
+    stage scene;
+    scene.list({"Erlenbach.bek"});
+    scene.press("pushButton");
+    scene.pick(1);
+    save(scene.whole(), "fenster_gelesen");
+    scene.press("pushButton_2");
+    save(scene.plots(), "kennlinie_becken");
+    scene.list({"Erlenbach.dkl"});
+    scene.press("pushButton");
+    scene.press("pushButton_f");
+    save(scene.plots(), "kennlinie_drossel");
+}
+
+void draw_zoom()
+{
+    stage scene;
+    scene.list({"Erlenbach_K1.wel"});
+    scene.press("pushButton");
+    auto* const lower = scene.window.findChild<QwtPlot*>("qwtPlot");
+    lower->setAxisScale(QwtAxis::XBottom, 5, 25);
+    lower->replot();
+    save(scene.plots(), "gezoomt");
+}
+
+void draw_dialogs()
+{
+    stage scene;
+    scene.list({"Erlenbach_B1.wel"});
+    scene.press("pushButton");
+    scene.trigger("action_y_achse_unten", [](QWidget& dialog) {
+        dialog.findChild<QDoubleSpinBox*>("doubleSpinBox")->setValue(0);
+        dialog.findChild<QDoubleSpinBox*>("doubleSpinBox_2")->setValue(20);
+        save(dialog.grab(), "achsenskalierung");
+    });
+    save(scene.plots(), "achse_fest");
+    scene.trigger("actionZeitreihe_change_names", [](QWidget& dialog) {
+        auto* const table = dialog.findChild<QTableWidget*>("tableWidget");
+        table->setItem(0, 1, new QTableWidgetItem("Zufluss"));
+        table->setItem(1, 1, new QTableWidgetItem("Abgabe"));
+        save(dialog.grab(), "umbenennen");
+    });
+    scene.window.shown_document()->set_curve_names({"Zufluss", "Abgabe", "", ""});
+    scene.window.findChild<QwtPlot*>("qwtPlot")->replot();
+    save(scene.plots(), "umbenannt");
+    scene.trigger("action_speicher", save_as("gespeichert"));
+    QFile::remove("Erlenbach/Erlenbach_B1.png");
+}
+
+void draw_boxes()
+{
+    stage scene;
+    scene.press_and_look("pushButton", save_as("box_auswahl"));
+    scene.trigger("actionOrvan_Information", save_as("box_information"));
+    scene.trigger("actionLGPLv3", save_as("box_lizenz"));
+}
+
+void draw_manual_viewer()
+{
+    stage scene;
+    DocuDialog viewer(&scene.window);
+    viewer.setWindowIcon(application_icon());
+    viewer.resize(900, 640);
+    viewer.show();
+    QCoreApplication::processEvents();
+    save(viewer.grab(), "handbuch_fenster");
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    const QApplication application(argc, argv);
+    QFile sheet(QStringLiteral(":styles/look_and_feel/global_style.qss"));
+    apply_style_sheet(*qApp, sheet);
+    if (argc != 2 || !QDir().mkpath(argv[1])) {
+        std::fputs("usage: manual_pictures FOLDER\n", stderr);
+        return 2;
+    }
+    target.setPath(argv[1]);
+    draw_window();
+    draw_hydrographs();
+    draw_characteristic_curves();
+    draw_zoom();
+    draw_dialogs();
+    draw_boxes();
+    draw_manual_viewer();
+    return all_saved ? 0 : 1;
+}
