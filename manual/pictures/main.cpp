@@ -1,14 +1,15 @@
-// Makes the pictures of the manual: manual_pictures FOLDER, in a folder that holds the examples as
-// "Erlenbach".
+// Makes the pictures of the manual: manual_pictures FOLDER MANUAL, in a folder that holds the
+// examples as "Erlenbach". MANUAL is a draft of the manual, for the picture of its own viewer; as
+// long as there is none, that picture shows an empty viewer.
 
 #include "app/style_sheet.h"
 #include "docu/docudialog.h"
 #include "manual/pictures/stage.h"
 #include "plot/korimo_plot.h"
-#include "ui/application_icon.h"
 
 #include <QAction>
 #include <QApplication>
+#include <QDeadlineTimer>
 #include <QDir>
 #include <QDoubleSpinBox>
 #include <QFile>
@@ -65,7 +66,8 @@ void draw_characteristic_curves()
     save(scene.plots(), "kennlinie_becken");
     scene.list({"Erlenbach.dkl"});
     scene.press("pushButton");
-    scene.press("pushButton_f");
+    scene.pick(1);
+    scene.press("pushButton_2");
     save(scene.plots(), "kennlinie_drossel");
 }
 
@@ -112,14 +114,17 @@ void draw_boxes()
     scene.trigger("actionLGPLv3", save_as("box_lizenz"));
 }
 
-void draw_manual_viewer()
+// Waits until the page has been drawn, which happens beside the event loop.
+void draw_manual_viewer(const QString& manual)
 {
-    stage scene;
-    DocuDialog viewer(&scene.window);
-    viewer.setWindowIcon(application_icon());
-    viewer.resize(900, 640);
+    DocuDialog viewer(nullptr);
+    viewer.setAttribute(Qt::WA_DeleteOnClose, false);
+    viewer.resize(1000, 700);
+    viewer.loadDocument(manual, 5);
     viewer.show();
-    QCoreApplication::processEvents();
+    const QDeadlineTimer deadline(1500);
+    while (!deadline.hasExpired())
+        QCoreApplication::processEvents(QEventLoop::AllEvents, 50);
     save(viewer.grab(), "handbuch_fenster");
 }
 
@@ -130,8 +135,8 @@ int main(int argc, char** argv)
     const QApplication application(argc, argv);
     QFile sheet(QStringLiteral(":styles/look_and_feel/global_style.qss"));
     apply_style_sheet(*qApp, sheet);
-    if (argc != 2 || !QDir().mkpath(argv[1])) {
-        std::fputs("usage: manual_pictures FOLDER\n", stderr);
+    if (argc != 3 || !QDir().mkpath(argv[1])) {
+        std::fputs("usage: manual_pictures FOLDER MANUAL\n", stderr);
         return 2;
     }
     target.setPath(argv[1]);
@@ -141,6 +146,6 @@ int main(int argc, char** argv)
     draw_zoom();
     draw_dialogs();
     draw_boxes();
-    draw_manual_viewer();
+    draw_manual_viewer(argv[2]);
     return all_saved ? 0 : 1;
 }
