@@ -94,6 +94,16 @@ bool viewer::bring(const QString& example) const
     return QFile::copy(QString(EXAMPLES_DIR) + "/" + example, folder.filePath(example));
 }
 
+bool viewer::bring_manual() const
+{
+    return QFile::copy(MANUAL, folder.filePath("01_Handbuch_KORIMO9.pdf"));
+}
+
+void viewer::close_main_window() const
+{
+    click_in_window(QPoint(931, -10)); // in its frame
+}
+
 void viewer::click(const QPoint& point) const
 {
     xdotool(QStringList{"mousemove"} + place_words(on_screen(point)) + QStringList{"click", "1"});

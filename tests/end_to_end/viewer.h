@@ -23,6 +23,11 @@ public:
     /// Copies a file of the examples into the program's folder.
     bool bring(const QString& example) const;
 
+    /// Copies the manual of the build there, too.
+    bool bring_manual() const;
+    /// Clicks on the button with which the window manager closes the main window.
+    void close_main_window() const;
+
     void click(const QPoint& place) const;
     /// Clicks at a place of the window, not of its central widget.
     void click_in_window(const QPoint& place) const;
