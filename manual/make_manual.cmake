@@ -1,7 +1,6 @@
-# Makes the manual. PICTURES is the program that makes its pictures, CONVERTER is asciidoctor
-# (with its extension for PDF),
-# SOURCE holds the text, EXAMPLES the example files; VERSION is that of the program. FOLDER is
-# emptied and used for the pictures, PDF is the result.
+# Makes the manual. PICTURES is the program that makes its pictures, CONVERTER is asciidoctor (with
+# its extension for PDF), SOURCE holds the text, EXAMPLES the example files; VERSION is that of the
+# program. FOLDER is emptied and used for the pictures, PDF is the result.
 
 function(run)
   execute_process(COMMAND ${ARGV} WORKING_DIRECTORY "${FOLDER}" RESULT_VARIABLE code
@@ -30,7 +29,8 @@ endfunction()
 function(convert pdf)
   run(${CMAKE_COMMAND} -E env SOURCE_DATE_EPOCH=0 LC_ALL=C.UTF-8
     "${CONVERTER}" -r asciidoctor-pdf -b pdf --failure-level WARN --safe-mode unsafe
-    -a reproducible -a "program-version=${VERSION}" -a "imagesdir=${FOLDER}/pictures"
+    -a reproducible -a "program-version=${VERSION}" -a "examples=${EXAMPLES}"
+    -a "imagesdir=${FOLDER}/pictures"
     -a "pdf-themesdir=${SOURCE}" -a pdf-theme=handbuch
     -o "${pdf}" "${SOURCE}/handbuch.adoc")
 endfunction()

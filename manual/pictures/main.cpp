@@ -5,7 +5,6 @@
 #include "app/style_sheet.h"
 #include "docu/docudialog.h"
 #include "manual/pictures/stage.h"
-#include "plot/korimo_plot.h"
 
 #include <QAction>
 #include <QApplication>
@@ -13,7 +12,9 @@
 #include <QDir>
 #include <QDoubleSpinBox>
 #include <QFile>
+#include <QPushButton>
 #include <QTableWidget>
+#include <QTest>
 
 #include <qwt_plot.h>
 
@@ -47,28 +48,30 @@ void draw_hydrographs()
 
 void draw_window()
 {
-    stage scene;
-    save(scene.whole(), "fenster_leer");
-    scene.list({"Erlenbach_B1.wel", "Erlenbach.bek", "Erlenbach_K1.wel"});
-    save(scene.whole(), "fenster_dateien");
-    scene.press("pushButton");
-    save(scene.whole(), "fenster_ganglinie");
+    stage full;
+    full.list({"Erlenbach_B1.wel", "Erlenbach.bek", "Erlenbach_K1.wel"});
+    save(full.whole(), "fenster_dateien");
+    stage first;
+    first.list({"Erlenbach_B1.wel", "Erlenbach_K1.wel"});
+    first.press("pushButton");
+    save(first.whole(), "fenster_ganglinie");
 }
 
 void draw_characteristic_curves()
 {
-    stage scene;
-    scene.list({"Erlenbach.bek"});
-    scene.press("pushButton");
-    scene.pick(1);
-    save(scene.whole(), "fenster_gelesen");
-    scene.press("pushButton_2");
-    save(scene.plots(), "kennlinie_becken");
-    scene.list({"Erlenbach.dkl"});
-    scene.press("pushButton");
-    scene.pick(1);
-    scene.press("pushButton_2");
-    save(scene.plots(), "kennlinie_drossel");
+    stage basins;
+    basins.list({"Erlenbach.bek"});
+    basins.press("pushButton");
+    basins.pick(1);
+    save(basins.whole(), "fenster_gelesen");
+    basins.press("pushButton_2");
+    save(basins.plots(), "kennlinie_becken");
+    stage throttles;
+    throttles.list({"Erlenbach.dkl"});
+    throttles.press("pushButton");
+    throttles.pick(1);
+    throttles.press("pushButton_2");
+    save(throttles.plots(), "kennlinie_drossel");
 }
 
 void draw_zoom()
@@ -98,9 +101,8 @@ void draw_dialogs()
         table->setItem(0, 1, new QTableWidgetItem("Zufluss"));
         table->setItem(1, 1, new QTableWidgetItem("Abgabe"));
         save(dialog.grab(), "umbenennen");
+        dialog.findChild<QPushButton*>("pushButton")->click();
     });
-    scene.window.shown_document()->set_curve_names({"Zufluss", "Abgabe", "", ""});
-    scene.window.findChild<QwtPlot*>("qwtPlot")->replot();
     save(scene.plots(), "umbenannt");
     scene.trigger("action_speicher", save_as("gespeichert"));
     QFile::remove("Erlenbach/Erlenbach_B1.png");
@@ -114,7 +116,22 @@ void draw_boxes()
     scene.trigger("actionLGPLv3", save_as("box_lizenz"));
 }
 
-// Waits until the page has been drawn, which happens beside the event loop.
+// Waits until the widget has been drawn and stands still: pages are drawn beside the event loop.
+QPixmap settled(QWidget& widget)
+{
+    const QDeadlineTimer deadline(20'000);
+    const QImage blank = widget.grab().toImage();
+    QImage shown = blank;
+    int same = 0;
+    while (!deadline.hasExpired() && same < 10) {
+        QTest::qWait(50);
+        const QImage now = widget.grab().toImage();
+        same = now == shown && (now != blank || deadline.remainingTime() < 15'000) ? same + 1 : 0;
+        shown = now;
+    }
+    return widget.grab();
+}
+
 void draw_manual_viewer(const QString& manual)
 {
     DocuDialog viewer(nullptr);
@@ -122,10 +139,7 @@ void draw_manual_viewer(const QString& manual)
     viewer.resize(1000, 700);
     viewer.loadDocument(manual, 5);
     viewer.show();
-    const QDeadlineTimer deadline(1500);
-    while (!deadline.hasExpired())
-        QCoreApplication::processEvents(QEventLoop::AllEvents, 50);
-    save(viewer.grab(), "handbuch_fenster");
+    save(settled(viewer), "handbuch_fenster");
 }
 
 } // namespace

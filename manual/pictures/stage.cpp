@@ -55,15 +55,22 @@ void stage::press_and_look(const char* button, const std::function<void(QWidget&
     press(button);
 }
 
+// Layouts that ask for layouts need more than one turn.
+void stage::settle()
+{
+    for (int i = 0; i < 5; ++i)
+        QCoreApplication::processEvents();
+}
+
 QPixmap stage::whole()
 {
-    QCoreApplication::processEvents();
+    settle();
     return window.grab();
 }
 
 QPixmap stage::plots()
 {
-    QCoreApplication::processEvents();
+    settle();
     QWidget* const middle = window.centralWidget();
     return middle->grab(QRect(25, 45, 691, 600));
 }

@@ -30,5 +30,6 @@ public:
     MainWindow window;
 
 private:
+    static void settle();
     void look_at_modal(const std::function<void(QWidget&)>& look);
 };
