@@ -4,6 +4,7 @@
 #include <QGuiApplication>
 #include <QPdfPageSelector>
 #include <QScreen>
+#include <QStyle>
 #include <QTest>
 #include <QVBoxLayout>
 
@@ -43,6 +44,7 @@ private slots:
     void side_panel();
     void thumbnails();
     void tools();
+    void icons();
     void widgets_in_the_tool_bar();
     void start_of_the_view();
     void slots_of_the_dialog();
@@ -55,6 +57,7 @@ void tst_docu_layout::window()
     const docu_driver driver;
     QCOMPARE(driver.dialog->windowTitle(), "Documentation");
     QVERIFY(!driver.dialog->isModal());
+    QCOMPARE(driver.dialog->windowFlags(), QDialog().windowFlags());
     const auto* const column = qobject_cast<QVBoxLayout*>(driver.dialog->layout());
     QVERIFY(column);
     QCOMPARE(column->contentsMargins(), QMargins());
@@ -67,9 +70,8 @@ void tst_docu_layout::window()
 void tst_docu_layout::size()
 {
     const docu_driver driver;
-    const QRect screen = QGuiApplication::primaryScreen()->geometry();
-    QCOMPARE(driver.dialog->width(), static_cast<int>(screen.width() * 0.7));
-    QCOMPARE(driver.dialog->height(), static_cast<int>(screen.height() * 0.9));
+    QCOMPARE(QGuiApplication::primaryScreen()->size(), QSize(1366, 768));
+    QCOMPARE(driver.dialog->size(), QSize(956, 691)); // of 956.2 and 691.2
 }
 
 void tst_docu_layout::splitter()
@@ -151,6 +153,23 @@ void tst_docu_layout::tools()
         QVERIFY2(actions[i]->isCheckable() == (expected[i].text == "Continuous"), place);
     }
     QVERIFY(driver.action("Continuous")->isChecked());
+}
+
+void tst_docu_layout::icons()
+{
+    const docu_driver driver;
+    const QList<std::pair<const char*, QStyle::StandardPixmap>> icons{
+        {"Back to previous view", QStyle::SP_ArrowBack},
+        {"Forward to next view", QStyle::SP_ArrowForward},
+        {"Previous Page (PgUp)", QStyle::SP_ArrowLeft},
+        {"Next Page (PgDown)", QStyle::SP_ArrowRight},
+        {"Find Previous (Shift+F3)", QStyle::SP_ArrowUp},
+        {"Find Next (F3)", QStyle::SP_ArrowDown}};
+    for (const auto& [tool_tip, icon] : icons) {
+        const QImage expected = driver.dialog->style()->standardIcon(icon).pixmap(24, 24).toImage();
+        QVERIFY(!expected.isNull());
+        QVERIFY2(driver.action(tool_tip)->icon().pixmap(24, 24).toImage() == expected, tool_tip);
+    }
 }
 
 void tst_docu_layout::widgets_in_the_tool_bar()

@@ -13,7 +13,8 @@ pdf_file with_bookmarks()
 {
     pdf_file file = numbered_pages(5);
     file.title = "Handbuch für alle";
-    file.bookmarks = {{"Einführung", 0, 0}, {"Bedienung", 2, 0}, {"Maus", 3, 1}, {"Ende", 4, 0}};
+    file.bookmarks = {
+        {"Einführung", 0, 0}, {"Bedienung", 2, 0}, {"Maus", 3, 1}, {"Rad", 3, 2}, {"Ende", 4, 0}};
     return file;
 }
 
@@ -87,6 +88,7 @@ void tst_docu_navigation::bookmarks()
     QCOMPARE(bookmark(driver, 0).data(title).toString(), "Einführung");
     QCOMPARE(bookmark(driver, 0, 1).data(title).toString(), "Maus");
     QVERIFY(driver.bookmarks->isExpanded(bookmark(driver, 1)));
+    QVERIFY(driver.bookmarks->isExpanded(bookmark(driver, 0, 1)));
 }
 
 void tst_docu_navigation::bookmark_selected()

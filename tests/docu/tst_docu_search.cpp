@@ -164,8 +164,10 @@ void tst_docu_search::find_key()
          {static_cast<QWidget*>(driver.view), static_cast<QWidget*>(driver.bookmarks)}) {
         from->setFocus();
         QVERIFY(!driver.field->hasFocus());
+        driver.field->setText("word");
         QTest::keyClick(from, Qt::Key_F, Qt::ControlModifier);
         QVERIFY(driver.field->hasFocus());
+        QCOMPARE(driver.field->selectedText(), "word"); // as a shortcut does it, not a click
     }
 }
 
@@ -181,6 +183,11 @@ void tst_docu_search::hits_are_painted_as_they_come()
     driver.found->setSearchString("Rückhaltebecken"); // as typing does, but the tabs stay
     QTRY_COMPARE(driver.found->rowCount({}), 4);
     QTRY_VERIFY(painted.count > 0);
+    QTest::qWait(100);
+    const int with_hits = painted.count;
+    driver.found->setSearchString("nirgends");
+    QTRY_COMPARE(driver.found->rowCount({}), 0);
+    QTRY_VERIFY(painted.count > with_hits); // and when they go again
 }
 
 void tst_docu_search::hits_are_highlighted()

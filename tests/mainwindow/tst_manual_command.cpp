@@ -5,6 +5,8 @@
 
 #include <QAction>
 #include <QDir>
+#include <QPdfPageNavigator>
+#include <QPdfView>
 #include <QPointer>
 #include <QTest>
 
@@ -60,6 +62,7 @@ void tst_manual_command::opens_the_manual_of_the_working_folder()
     QCOMPARE(manuals.size(), 1);
     QCOMPARE(manuals[0]->windowTitle(), "Das Handbuch");
     QVERIFY(manuals[0]->isVisible() && !manuals[0]->isModal());
+    QCOMPARE(manuals[0]->findChild<QPdfView*>()->pageNavigator()->currentPage(), 0);
     QVERIFY(manuals[0]->testAttribute(Qt::WA_SetWindowIcon));
     QCOMPARE(manuals[0]->parentWidget(), &driver.window);
 }

@@ -1,9 +1,19 @@
+#include "docu/docudialog.h"
+#include "ui/axis_dialog.h"
+#include "ui/mainwindow.h"
+#include "ui/rename_dialog.h"
+
+#include <QAbstractButton>
+#include <QAction>
 #include <QDirIterator>
 #include <QFile>
+#include <QMenu>
+#include <QMenuBar>
 #include <QPdfBookmarkModel>
 #include <QPdfDocument>
 #include <QPdfSearchModel>
 #include <QRegularExpression>
+#include <QTabWidget>
 #include <QTest>
 
 namespace {
@@ -24,33 +34,63 @@ QString all_of(const QString& folder, const QStringList& kinds)
     return text;
 }
 
-// The code and the forms as a user sees their texts: literals in one piece, entities as characters.
-QString program_texts()
+// What the code says to the user: its string literals, adjoining ones in one piece.
+QString literals_of_the_program()
 {
-    QString text;
+    QString code;
     for (const char* folder : {"ui", "docu", "plot"})
-        text += all_of(folder, {"*.cpp", "*.ui"});
+        code += all_of(folder, {"*.cpp"});
     static const QRegularExpression joint("\"\\s*\"");
-    text.remove(joint);
-    for (const auto& [entity, character] :
-         {std::pair("&lt;", "<"), std::pair("&gt;", ">"), std::pair("\\u2212", "\u2212")})
-        text.replace(entity, character);
-    return text;
+    static const QRegularExpression literal("\"((?:[^\"\\\\\\n]|\\\\.)*)\"");
+    code.remove(joint);
+    QString texts;
+    for (const QRegularExpressionMatch& match : literal.globalMatch(code))
+        texts += match.captured(1) + "\n";
+    return texts.replace("%1", "Orvan_Info.txt") +
+           texts.replace("Orvan_Info.txt", "LICENSE.LGPLv3");
 }
 
-// What the manual quotes: buttons, menus with their entries, and titles of messages.
-QStringList quoted_texts()
+// The texts on everything that can be pressed or chosen, in all windows of the program.
+QStringList texts_on_widgets()
 {
-    static const QRegularExpression quotes("btn:\\[([^\\]]+)\\]|menu:([^\\[]+)\\[([^\\]]+)\\]|^=== "
-                                           "(Pleae .*|Could .*|An Error .*|File .*)$",
-                                           QRegularExpression::MultilineOption);
-    QStringList texts;
-    for (const QRegularExpressionMatch& match : quotes.globalMatch(all_of("manual", {"*.adoc"}))) {
-        for (QString text : match.capturedTexts().mid(1)) {
-            if (!text.isEmpty())
-                texts.append(text.remove('\\'));
+    const MainWindow window;
+    const DocuDialog manual(nullptr);
+    const axis_dialog range(nullptr);
+    const rename_dialog names(nullptr);
+    QStringList texts{"Read", "Clear"}; // of the button that changes its text
+    for (const QWidget* parent :
+         std::initializer_list<const QWidget*>{&window, &manual, &range, &names}) {
+        for (const auto* const button : parent->findChildren<QAbstractButton*>())
+            texts.append(button->text().remove('&'));
+        for (const auto* const action : parent->findChildren<QAction*>())
+            texts.append(action->text());
+        for (const auto* const tabs : parent->findChildren<QTabWidget*>()) {
+            for (int i = 0; i < tabs->count(); ++i)
+                texts.append(tabs->tabText(i));
         }
     }
+    return texts;
+}
+
+// The entries of all menus as "menu:Title[Entry]".
+QStringList menu_entries()
+{
+    const MainWindow window;
+    QStringList entries;
+    for (const QAction* menu : window.menuBar()->actions()) {
+        for (const QAction* entry : menu->menu()->actions())
+            entries.append("menu:" + menu->text() + "[" + entry->text() + "]");
+    }
+    return entries;
+}
+
+// What the manual quotes in one way.
+QStringList quotes(const char* pattern)
+{
+    const QRegularExpression quote(pattern, QRegularExpression::MultilineOption);
+    QStringList texts;
+    for (const QRegularExpressionMatch& match : quote.globalMatch(all_of("manual", {"*.adoc"})))
+        texts.append(match.captured(1).remove('\\'));
     texts.removeDuplicates();
     return texts;
 }
@@ -67,6 +107,20 @@ QList<std::pair<QString, int>> outline_of(const QPdfBookmarkModel& model,
         entries += outline_of(model, index);
     }
     return entries;
+}
+
+// In the order of the chapters.
+QStringList headings_of_the_text()
+{
+    static const QRegularExpression included("include::(.*)\\[\\]");
+    static const QRegularExpression heading("^===? (.*)$", QRegularExpression::MultilineOption);
+    QStringList headings;
+    for (const auto& chapter : included.globalMatch(text_of(PROJECT "/manual/handbuch.adoc"))) {
+        const QString text = text_of(PROJECT "/manual/" + chapter.captured(1));
+        for (const auto& match : heading.globalMatch(text))
+            headings.append(match.captured(1));
+    }
+    return headings;
 }
 
 // Without blanks and line breaks, which a page sets as it needs them.
@@ -92,8 +146,9 @@ private slots:
     void text_is_found_data();
     void text_is_found();
     void fonts_are_embedded();
-    void quoted_texts_exist_data();
-    void quoted_texts_exist();
+    void buttons_exist();
+    void menu_entries_exist();
+    void messages_exist();
 
 private:
     QPdfDocument manual;
@@ -124,29 +179,31 @@ void tst_manual::page_labels()
     QVERIFY2(last.toInt() > 15, qPrintable(last));
 }
 
+// The title and the contents come first, then all headings in their order.
 void tst_manual::outline_is_complete()
 {
     QPdfBookmarkModel model;
     model.setDocument(&manual);
-    QString entries;
-    for (const auto& [title, page] : outline_of(model))
-        entries += bare(title) + "\n";
-    static const QRegularExpression headings("^===? (.*)$", QRegularExpression::MultilineOption);
-    int count = 0;
-    for (const auto& match : headings.globalMatch(all_of("manual/kapitel", {"*.adoc"}))) {
-        QVERIFY2(entries.contains(bare(match.captured(1))), qPrintable(match.captured(1)));
-        ++count;
-    }
-    QVERIFY(count > 30);
+    const auto entries = outline_of(model);
+    const QStringList headings = headings_of_the_text();
+    QVERIFY(headings.size() > 30);
+    QCOMPARE(entries.size(), headings.size() + 2);
+    QCOMPARE(entries[1].first, "Inhalt");
+    for (qsizetype i = 0; i < headings.size(); ++i)
+        QVERIFY2(bare(entries[i + 2].first).endsWith(bare(headings[i])), qPrintable(headings[i]));
 }
 
+// The contents name every heading, too; they do not count.
 void tst_manual::bookmarks_meet_their_headings()
 {
     QPdfBookmarkModel model;
     model.setDocument(&manual);
-    for (const auto& [title, page] : outline_of(model)) {
-        const QString text = bare(manual.getAllText(page).text());
-        QVERIFY2(page == 0 || text.contains(bare(title)), qPrintable(title));
+    int first_page = 0;
+    while (manual.pageLabel(first_page) != "1")
+        ++first_page;
+    for (const auto& [title, page] : outline_of(model).mid(2)) {
+        QVERIFY2(page >= first_page, qPrintable(title));
+        QVERIFY2(bare(manual.getAllText(page).text()).contains(bare(title)), qPrintable(title));
     }
 }
 
@@ -167,7 +224,6 @@ void tst_manual::text_is_found()
     QTRY_VERIFY(search.rowCount({}) > 0);
 }
 
-// Each font file in the PDF is embedded; a font without one would be named without such an entry.
 void tst_manual::fonts_are_embedded()
 {
     QFile file(MANUAL);
@@ -176,20 +232,36 @@ void tst_manual::fonts_are_embedded()
     const qsizetype descriptors = bytes.count("/Type /FontDescriptor");
     QVERIFY(descriptors > 0);
     QCOMPARE(bytes.count("/FontFile2"), descriptors);
+    QVERIFY(!bytes.contains("/Subtype /Type1")); // those of every viewer, which need no file
 }
 
-void tst_manual::quoted_texts_exist_data()
+void tst_manual::buttons_exist()
 {
-    QTest::addColumn<QString>("text");
-    for (const QString& text : quoted_texts())
-        QTest::newRow(qPrintable(text)) << text;
+    const QStringList texts = texts_on_widgets();
+    const QStringList quoted = quotes("btn:\\[((?:[^\\]\\\\]|\\\\.)+)\\]");
+    QVERIFY(quoted.size() > 15);
+    for (const QString& text : quoted)
+        QVERIFY2(texts.contains(text), qPrintable(text));
 }
 
-void tst_manual::quoted_texts_exist()
+void tst_manual::menu_entries_exist()
 {
-    QFETCH(QString, text);
-    static const QString texts = program_texts();
-    QVERIFY(texts.contains(text));
+    const QStringList entries = menu_entries();
+    const QStringList quoted = quotes("(menu:[^\\[\\n]+\\[[^\\]]+\\])");
+    QVERIFY(quoted.size() >= entries.size()); // all of them are told
+    for (const QString& text : quoted)
+        QVERIFY2(entries.contains(text), qPrintable(text));
+}
+
+// Other texts: marked as such in the text, or headings of the chapter about messages.
+void tst_manual::messages_exist()
+{
+    const QString literals = literals_of_the_program();
+    const QStringList quoted =
+        quotes("\\[ui\\]#([^#]+)#") + quotes("^=== (Pleae .*|Could .*|An Error .*|File .*)$");
+    QVERIFY(quoted.size() > 8);
+    for (const QString& text : quoted)
+        QVERIFY2(literals.contains(text), qPrintable(text));
 }
 
 QTEST_MAIN(tst_manual)
