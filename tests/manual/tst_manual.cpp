@@ -46,8 +46,8 @@ QString literals_of_the_program()
     QString texts;
     for (const QRegularExpressionMatch& match : literal.globalMatch(code))
         texts += match.captured(1) + "\n";
-    return texts.replace("%1", "Orvan_Info.txt") +
-           texts.replace("Orvan_Info.txt", "LICENSE.LGPLv3");
+    return QString(texts).replace("%1", "Orvan_Info.txt") +
+           QString(texts).replace("%1", "LICENSE.LGPLv3");
 }
 
 // The texts on everything that can be pressed or chosen, in all windows of the program.
