@@ -1,7 +1,8 @@
 #include "tests/end_to_end/road.h"
 
-#include <QFile>
 #include <QTest>
+
+#include <functional>
 
 class tst_manual_road : public road
 {
