@@ -26,7 +26,7 @@ private:
     void look()
     {
         auto* const shown = qobject_cast<dialog*>(QApplication::activeModalWidget());
-        if (!shown || !shown->isVisible())
+        if (!shown || !shown->isActiveWindow()) // no key reaches it before it is active
             return;
         ++answered;
         answer(*shown);

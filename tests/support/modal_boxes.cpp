@@ -30,7 +30,8 @@ modal_boxes::modal_boxes()
 void modal_boxes::answer()
 {
     auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-    if (!box || !box->isVisible())
+    // No key reaches a box before it is active; until then another button may be the default one.
+    if (!box || !box->isActiveWindow())
         return;
     shown_box seen;
     seen.title = box->windowTitle();
