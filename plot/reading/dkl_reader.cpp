@@ -48,11 +48,9 @@ int point_count_in(QByteArrayView line)
 // 0, whatever stands before the exponent. That is deliberately lopsided.
 void append_point(QByteArrayView line, series_store& series)
 {
-    token_cursor cursor(line);
-    QByteArrayView first;
-    QByteArrayView second;
-    cursor.next(first);
-    cursor.next(second);
+    QByteArrayView rest = line;
+    const QByteArrayView first = take_token(rest);
+    const QByteArrayView second = take_token(rest);
     const double level = value_of(first);
     const double discharge = value_of(second);
     const bool has_zero = level == 0.0 || discharge == 0.0;

@@ -1,6 +1,8 @@
 #include "plot/reading/number.h"
 
+#include "plot/reading/plain_decimal.h"
 #include "plot/reading/text_lines.h"
+#include "plot/reading/tokens.h"
 
 #include <QString>
 
@@ -14,22 +16,34 @@ bool is_digit(char c)
     return c >= '0' && c <= '9';
 }
 
-// Plain decimal numbers are nearly all that result files hold; what starts otherwise ("+", ".",
-// letters, blanks) is left to the conversion of Qt.
-bool starts_plainly(QByteArrayView token)
+// What starts otherwise ("+", ".", letters, white space) is left to the conversion of Qt.
+bool starts_plainly(QByteArrayView text)
 {
-    const qsizetype sign = token.startsWith('-') ? 1 : 0;
-    return token.size() > sign && is_digit(token[sign]);
+    const qsizetype sign = text.startsWith('-') ? 1 : 0;
+    return text.size() > sign && is_digit(text[sign]);
 }
 
-// Whether all of `token` is a plain number.
+// Whether all of `token` is a number with a plain start.
 bool read_plainly(QByteArrayView token, double& value)
 {
     if (!starts_plainly(token))
         return false;
-    const char* const end = token.data() + token.size();
-    const auto [rest, error] = std::from_chars(token.data(), end, value);
-    return error == std::errc() && rest == end;
+    const auto [rest, error] = std::from_chars(token.begin(), token.end(), value);
+    return error == std::errc() && rest == token.end();
+}
+
+// Takes a token off `line`, which starts with it, and answers whether it is a number. Nearly all
+// tokens of result files are plain decimals, which show their own end.
+bool take_number(QByteArrayView& line, double& value)
+{
+    const qsizetype length = read_plain_decimal(line, value);
+    if (length > 0 && (length == line.size() || line[length] == ' ')) {
+        line = line.sliced(length);
+        return true;
+    }
+    const std::optional<double> number = number_in(take_token(line));
+    value = number.value_or(0.0);
+    return number.has_value();
 }
 
 QByteArrayView without_blanks_around(QByteArrayView text)
@@ -51,6 +65,18 @@ std::optional<double> number_in(QByteArrayView token)
     bool ok = false;
     value = decoded(token).toDouble(&ok);
     return ok ? std::optional(value) : std::nullopt;
+}
+
+bool read_numbers(QByteArrayView line, std::vector<double>& values)
+{
+    values.clear();
+    for (skip_blanks(line); !line.isEmpty(); skip_blanks(line)) {
+        double value = 0.0;
+        if (!take_number(line, value))
+            return false;
+        values.push_back(value);
+    }
+    return true;
 }
 
 double value_of(QByteArrayView text)

@@ -7,7 +7,7 @@
 
 namespace {
 
-constexpr qsizetype block_size = 262'144;
+constexpr qsizetype block_size = 65'536;
 constexpr QByteArrayView utf8_mark("\xEF\xBB\xBF");
 
 constexpr QStringDecoder::Flags keep_marks = QStringDecoder::Flag::ConvertInitialBom;
@@ -59,9 +59,11 @@ void text_lines::fill()
 {
     buffer.remove(0, start);
     start = 0;
-    const QByteArray block = device.read(block_size);
-    at_end = block.isEmpty();
-    append(block);
+    block.resize(block_size);
+    const qint64 count = device.read(block.data(), block_size);
+    at_end = count <= 0;
+    if (!at_end)
+        append(QByteArrayView(block).first(count));
 }
 
 void text_lines::append(QByteArrayView bytes)

@@ -33,6 +33,7 @@ private:
     QByteArrayView without_returns(QByteArrayView line);
 
     QIODevice& device;
+    QByteArray block;                         // what was read last
     QByteArray buffer;                        // text that was read and not yet given out
     qsizetype start = 0;                      // where the next line starts in it
     QByteArray rewritten;                     // a line that had to be changed

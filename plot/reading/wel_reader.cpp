@@ -2,7 +2,9 @@
 
 #include "plot/reading/debug_log.h"
 #include "plot/reading/element_kinds.h"
+#include "plot/reading/line_text.h"
 #include "plot/reading/number.h"
+#include "plot/reading/row_log.h"
 #include "plot/reading/text_lines.h"
 #include "plot/reading/tokens.h"
 
@@ -16,22 +18,6 @@ namespace {
 
 using row = std::vector<double>;
 
-// Fills `values` with the numbers of the line up to the first token that is none, and answers
-// whether every token is a number. A line without tokens is a row without values.
-bool read_row(QByteArrayView line, row& values)
-{
-    values.clear();
-    token_cursor cursor(line);
-    QByteArrayView token;
-    while (cursor.next(token)) {
-        const std::optional<double> number = number_in(token);
-        if (!number)
-            return false;
-        values.push_back(*number);
-    }
-    return true;
-}
-
 // Appends the values to their series and answers whether all of them have a place there.
 bool store_row(const row& values, const column_routing& columns, series_store& series)
 {
@@ -39,12 +25,6 @@ bool store_row(const row& values, const column_routing& columns, series_store& s
     for (std::size_t i = 0; i < accepted; ++i)
         series[static_cast<std::size_t>(columns[i])].append(values[i]);
     return accepted == values.size();
-}
-
-void log_row(QByteArrayView line, bool ok)
-{
-    if (debug_log_is_on())
-        qDebug() << tokens_of(decoded(line)) << ok;
 }
 
 void log_overlong_row(QByteArrayView line, const element_kind& kind, const column_routing& columns)
@@ -66,11 +46,11 @@ void read_wel(text_lines& lines, QStringView file_name, const wel_target& target
     row values;
     QByteArrayView line;
     while (lines.next(line)) {
-        if (line.contains("Ganglinien")) {
+        if (has(line, "Ganglinien")) {
             target.title = decoded(line);
             continue;
         }
-        const bool ok = read_row(line, values);
+        const bool ok = read_numbers(line, values);
         log_row(line, ok);
         if (!ok || !kind)
             continue;

@@ -3,6 +3,7 @@
 #include <QRandomGenerator>
 #include <QTest>
 
+#include <algorithm>
 #include <bit>
 #include <clocale>
 #include <cmath>
@@ -33,6 +34,41 @@ bool same(std::optional<double> a, std::optional<double> b)
     return std::bit_cast<quint64>(*a) == std::bit_cast<quint64>(*b);
 }
 
+// Whether a line of the tokens is read as these values.
+bool reads(const QByteArray& line, const std::vector<double>& expected)
+{
+    std::vector<double> values;
+    return read_numbers(line, values) &&
+           std::ranges::equal(values, expected, [](double a, double b) { return same(a, b); });
+}
+
+// Whether a token is the number that is expected, by itself and among others in a line.
+bool is(const QString& token, std::optional<double> expected)
+{
+    const QByteArray utf8 = token.toUtf8();
+    if (!same(number_in(utf8), expected))
+        return false;
+    if (utf8.isEmpty() || utf8.contains(' '))
+        return true;
+    std::vector<double> unused;
+    if (!expected)
+        return !read_numbers(utf8, unused) && !read_numbers("7 " + utf8 + " 8", unused);
+    return reads(utf8, {*expected}) && reads("  " + utf8 + "          7", {*expected, 7.0}) &&
+           reads("7 " + utf8 + " 8", {7.0, *expected, 8.0});
+}
+
+// A decimal of up to twenty digits, which may have its point anywhere.
+QString random_decimal(QRandomGenerator& random)
+{
+    QString token;
+    const int length = random.bounded(1, 21);
+    for (int i = 0; i < length; ++i)
+        token.append(QChar(u'0' + random.bounded(10)));
+    if (random.bounded(4) > 0)
+        token.insert(random.bounded(length + 1), u'.');
+    return random.bounded(3) == 0 ? u'-' + token : token;
+}
+
 QString random_token(QRandomGenerator& random)
 {
     static const QString letters =
@@ -56,6 +92,9 @@ private slots:
     void number();
     void random_tokens_as_qt();
     void random_doubles_in_all_notations();
+    void random_decimals();
+    void lines_data();
+    void lines();
     void value_of_text_data();
     void value_of_text();
     void random_values_as_qt();
@@ -131,7 +170,7 @@ void tst_number::number()
     QFETCH(bool, is_number);
     QFETCH(double, value);
     const std::optional<double> expected = is_number ? std::optional(value) : std::nullopt;
-    QVERIFY(same(number_in(token.toUtf8()), expected));
+    QVERIFY(is(token, expected));
     QVERIFY(same(by_qt(token), expected));
 }
 
@@ -143,7 +182,7 @@ void tst_number::random_tokens_as_qt()
         const QString token = random_token(random);
         const std::optional<double> expected = by_qt(token);
         numbers += expected ? 1 : 0;
-        QVERIFY2(same(number_in(token.toUtf8()), expected), qPrintable(token));
+        QVERIFY2(is(token, expected), qPrintable(token));
     }
     QVERIFY(numbers > 1000);
 }
@@ -157,8 +196,51 @@ void tst_number::random_doubles_in_all_notations()
             continue;
         const char format = "efgEG"[random.bounded(5)];
         const QString token = QString::number(value, format, random.bounded(0, 20));
-        QVERIFY2(same(number_in(token.toUtf8()), by_qt(token)), qPrintable(token));
+        QVERIFY2(is(token, by_qt(token)), qPrintable(token));
     }
+}
+
+void tst_number::random_decimals()
+{
+    QRandomGenerator random(20263);
+    for (int i = 0; i < 300000; ++i) {
+        const QString token = random_decimal(random);
+        QVERIFY2(is(token, by_qt(token)), qPrintable(token));
+    }
+}
+
+void tst_number::lines_data()
+{
+    QTest::addColumn<QByteArray>("line");
+    QTest::addColumn<bool>("all_are_numbers");
+    QTest::addColumn<std::vector<double>>("values");
+    const auto row = [](const QByteArray& line, bool all, const std::vector<double>& values) {
+        QTest::addRow("\"%s\"", line.constData()) << line << all << values;
+    };
+    row("", true, {});
+    row("        ", true, {});
+    row("                 ", true, {});
+    row("1", true, {1.0});
+    row("1 2", true, {1.0, 2.0});
+    row("        1        2       ", true, {1.0, 2.0});
+    row("1 x 2", false, {1.0});
+    row("x", false, {});
+    row("1\t2", false, {});
+    row("1\t 2", true, {1.0, 2.0});
+    row("1.5.2 3", false, {});
+    row("1e2 +3 .5 -0 4.", true, {100.0, 3.0, 0.5, -0.0, 4.0});
+    row("123456789012345 1234567890123456 0.12345678901234567", true,
+        {123456789012345.0, 1234567890123456.0, 0.12345678901234567});
+}
+
+void tst_number::lines()
+{
+    QFETCH(QByteArray, line);
+    QFETCH(bool, all_are_numbers);
+    QFETCH(std::vector<double>, values);
+    std::vector<double> read{99.0};
+    QCOMPARE(read_numbers(line, read), all_are_numbers);
+    QVERIFY(std::ranges::equal(read, values, [](double a, double b) { return same(a, b); }));
 }
 
 void tst_number::value_of_text_data()

@@ -23,7 +23,7 @@ private slots:
 
 namespace {
 
-constexpr qsizetype file_count = 500;
+constexpr qsizetype file_count = 5000;
 
 // One file after the other, made from a seed of their name, and both plots for the documents.
 struct random_road
