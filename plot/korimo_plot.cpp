@@ -1,5 +1,6 @@
 #include "plot/korimo_plot.h"
 
+#include "plot/drawing/long_curve.h"
 #include "plot/drawing/owned_item.h"
 
 #include <qwt_plot_curve.h>
@@ -13,7 +14,7 @@ korimo_plot::korimo_plot(QwtPlot* plot, QwtPlot* /*plot_2*/)
     legend_lower = new QwtLegend;
     legend_upper = new QwtLegend;
     for (QwtPlotCurve*& curve : curves)
-        new owned_item<QwtPlotCurve>(curve);
+        new owned_item<long_curve, QwtPlotCurve>(curve);
     new owned_item<QwtPlotGrid>(grid_lower);
     new owned_item<QwtPlotGrid>(grid_upper);
     magnifier_a = new QwtPlotMagnifier(plot->canvas());

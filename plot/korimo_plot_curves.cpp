@@ -5,15 +5,14 @@
 #include <qwt_plot_curve.h>
 #include <qwt_text.h>
 
-#include <algorithm>
-
 namespace {
 
 constexpr double curve_width = 2.0;
 
+// The list itself where all of it is wanted: a part of a list is a copy.
 QList<double> tail(const QList<double>& values, qsizetype length)
 {
-    return values.last(std::min(values.size(), length));
+    return length < values.size() ? values.last(length) : values;
 }
 
 void set_samples(QwtPlotCurve& curve, const curve_rule& rule, const series_store& series)

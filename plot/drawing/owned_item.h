@@ -4,11 +4,12 @@
 ///
 /// A plot deletes the items attached to it when it is destroyed. The item then empties the owner's
 /// pointer, so that no item is deleted twice, whichever of the two goes first.
-template <class item>
+/// The owner may know the item by a base class only.
+template <class item, class known_as = item>
 class owned_item : public item
 {
 public:
-    explicit owned_item(item*& owner)
+    explicit owned_item(known_as*& owner)
         : owner(owner)
     {
         owner = this;
@@ -20,5 +21,5 @@ public:
     owned_item& operator=(const owned_item&) = delete;
 
 private:
-    item*& owner;
+    known_as*& owner;
 };

@@ -1,0 +1,102 @@
+#include "plot/drawing/long_curve.h"
+
+#include "plot/drawing/dense_line.h"
+#include "plot/drawing/sampled_line.h"
+
+#include <QPaintEngine>
+#include <QPainter>
+
+#include <qwt_painter.h>
+#include <qwt_point_data.h>
+#include <qwt_scale_map.h>
+
+#include <algorithm>
+
+namespace {
+
+constexpr qsizetype points_per_column = 2; // up to so many, Qwt draws them as quickly
+
+std::span<const double> values_of(const QList<double>& list)
+{
+    return {list.constData(), static_cast<std::size_t>(list.size())};
+}
+
+// Where Qwt cuts a line off: outside of the canvas by the width of the pen.
+QRect clip_rectangle(const QPainter& painter, QRectF canvas)
+{
+    if (painter.hasClipping())
+        canvas &= painter.clipBoundingRect();
+    const double width = QwtPainter::effectivePenWidth(painter.pen());
+    return canvas.adjusted(-width, -width, width, width).toAlignedRect();
+}
+
+// Whether Qwt draws on whole pixels and cuts the line in pieces. Otherwise, as in a PDF, the
+// picture has no pixels that could hide points.
+bool draws_pieces(QPainter& painter)
+{
+    const QPaintEngine* const engine = painter.paintEngine();
+    return engine && engine->type() == QPaintEngine::Raster &&
+           QwtPainter::roundingAlignment(&painter) && QwtPainter::polylineSplitting() &&
+           !painter.testRenderHint(QPainter::Antialiasing) && painter.pen().widthF() > 1.0 &&
+           painter.pen().style() == Qt::SolidLine && painter.pen().color().alpha() == 255;
+}
+
+} // namespace
+
+long_curve::long_curve() = default;
+long_curve::~long_curve() = default;
+
+void long_curve::dataChanged()
+{
+    line.reset();
+    QwtPlotCurve::dataChanged();
+}
+
+// The samples, if they are such that hidden points can be found; otherwise null.
+sampled_line* long_curve::orderly_line() const
+{
+    const auto* const samples = dynamic_cast<const QwtPointArrayData<double>*>(data());
+    if (!samples || samples->size() == 0)
+        return nullptr;
+    if (!line) {
+        const auto x = values_of(samples->xData());
+        const auto y = values_of(samples->yData());
+        const std::size_t size = samples->size();
+        line = std::make_unique<sampled_line>(x.first(size), y.first(size));
+    }
+    return line->is_orderly() ? line.get() : nullptr;
+}
+
+QRectF long_curve::boundingRect() const
+{
+    const sampled_line* const samples = orderly_line();
+    if (!samples)
+        return QwtPlotCurve::boundingRect();
+    const auto [low, high] = samples->values().range(0, samples->size());
+    const double left = samples->x_of(0);
+    return {left, low, samples->x_of(samples->size() - 1) - left, high - low};
+}
+
+void long_curve::drawLines(QPainter* painter, const QwtScaleMap& x_map, const QwtScaleMap& y_map,
+                           const QRectF& canvas, int from, int to) const
+{
+    sampled_line* const samples = orderly_line();
+    const bool draws_all = samples && from == 0 && to == samples->size() - 1;
+    if (!draws_all || !draws_pieces(*painter) || x_map.isInverting()) {
+        QwtPlotCurve::drawLines(painter, x_map, y_map, canvas, from, to);
+        return;
+    }
+    const QRect clip = clip_rectangle(*painter, canvas);
+    samples->set_x_scale(x_map);
+    const qsizetype first = samples->first_from_column(clip.left(), 0, samples->size());
+    const qsizetype end = samples->first_from_column(clip.right() + 1, first, samples->size());
+    if (end - first > points_per_column * clip.width()) {
+        samples->set_y_scale(y_map);
+        dense_line(*samples, clip, first, end).draw(*painter);
+        return;
+    }
+    // Of the points outside, only the nearest ones are joined with what can be seen.
+    const auto first_drawn = static_cast<int>(std::max<qsizetype>(first - 1, 0));
+    const auto last_drawn = static_cast<int>(std::min(end, samples->size() - 1));
+    QwtPlotCurve::drawLines(painter, x_map, y_map, canvas, first_drawn, last_drawn);
+}
