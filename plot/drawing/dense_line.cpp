@@ -19,9 +19,17 @@ bool ends_a_piece(qsizetype vertex)
     return vertex % edges_of_a_piece == 0;
 }
 
+// The row where a line from a point on the left of the clip rectangle to one within its columns
+// enters them.
+double row_of_entry(const QPointF& outside, const QPointF& inside, const QRectF& clip)
+{
+    const double share = (clip.left() - outside.x()) / (inside.x() - outside.x());
+    return outside.y() + share * (inside.y() - outside.y());
+}
+
 } // namespace
 
-dense_line::dense_line(const sampled_line& line, const QRect& clip, qsizetype first, qsizetype end)
+dense_line::dense_line(const sampled_line& line, const QRectF& clip, qsizetype first, qsizetype end)
     : line(line)
     , clip(clip)
     , first(first)
@@ -33,19 +41,31 @@ dense_line::dense_line(const sampled_line& line, const QRect& clip, qsizetype fi
 void dense_line::draw(QPainter& painter) const
 {
     draw_bars(painter);
-    draw_pieces(painter);
+    draw_steps(painter);
 }
 
-// Where the line enters from the left, the cut leaves one vertex before the first point.
 void dense_line::find_bars()
 {
-    qsizetype vertex = first > 0 ? 1 : 0;
+    qsizetype vertex = vertex_of_first_point();
     for (qsizetype point = first; point < end;) {
         const qsizetype next = line.first_from_column(line.column(point) + 1, point, end);
         bars.append(bar_of(point, next, vertex));
-        vertex = bars.last().last_vertex + 1;
+        if (next < end) {
+            vertex = bars.last().last_vertex +
+                     line.window().vertices_of_step(line.row(next - 1), line.row(next));
+        }
         point = next;
     }
+}
+
+// The first vertex has the number 0: the point itself, or where the line enters from the left.
+qsizetype dense_line::vertex_of_first_point() const
+{
+    const row_window& window = line.window();
+    if (first == 0)
+        return window.has(line.row(first)) - 1;
+    const double row = row_of_entry(line.pixel(first - 1), line.pixel(first), clip);
+    return window.has(row) + window.vertices_of_step(row, line.row(first)) - 1;
 }
 
 dense_line::bar dense_line::bar_of(qsizetype first_point, qsizetype end_point,
@@ -55,16 +75,9 @@ dense_line::bar dense_line::bar_of(qsizetype first_point, qsizetype end_point,
     const auto [top, bottom] = std::minmax({line.row_of(low), line.row_of(high)});
     const qsizetype last_point = end_point - 1;
     const qsizetype last_vertex =
-        first_vertex + line.row_changes_up_to(last_point) - line.row_changes_up_to(first_point);
-    bar found{line.column(first_point),
-              first_point,
-              last_point,
-              first_vertex,
-              last_vertex,
-              top,
-              bottom,
-              false,
-              false};
+        first_vertex + line.vertices_up_to(last_point) - line.vertices_up_to(first_point);
+    bar found{
+        line.column(first_point), first_point, last_point, first_vertex, last_vertex, top, bottom};
     if (top < bottom) {
         found.cap_above = has_cap_in(found, top);
         found.cap_below = has_cap_in(found, bottom);
@@ -72,37 +85,18 @@ dense_line::bar dense_line::bar_of(qsizetype first_point, qsizetype end_point,
     return found;
 }
 
-void dense_line::draw_bars(QPainter& painter) const
-{
-    const QPen pen = painter.pen();
-    const double cap = pen.widthF() / 2.0;
-    QList<QLineF> lines;
-    for (const bar& each : bars) {
-        if (each.top == each.bottom)
-            continue;
-        const double from = each.cap_above ? each.top - cap : each.top;
-        const double to = each.cap_below ? each.bottom + cap : each.bottom;
-        lines.append(QLineF(each.column, from, each.column, to));
-    }
-    QPen without_caps = pen;
-    without_caps.setCapStyle(Qt::FlatCap);
-    painter.setPen(without_caps);
-    painter.drawLines(lines);
-    painter.setPen(pen);
-}
-
 // Whether a piece ends in the row, which is the top or the bottom one.
 bool dense_line::has_cap_in(const bar& each, int row) const
 {
-    if (each.last_vertex / edges_of_a_piece * edges_of_a_piece < each.first_vertex)
+    const qsizetype last_end = each.last_vertex / edges_of_a_piece * edges_of_a_piece;
+    if (last_end < each.first_vertex || !line.window().has(row))
         return false;
-    const qsizetype offset = each.first_vertex - line.row_changes_up_to(each.first);
+    const qsizetype offset = each.first_vertex - line.vertices_up_to(each.first);
     for (qsizetype point = each.first; point <= each.last;) {
         const qsizetype block = point / value_blocks::length;
         const qsizetype next = std::min((block + 1) * value_blocks::length, each.last + 1);
-        const auto [low, high] = line.values().block(block);
-        if ((line.row_of(low) == row || line.row_of(high) == row) &&
-            has_cap_among(point, next, offset + line.row_changes_up_to(point), row))
+        if (line.block_reaches(block, row) &&
+            has_cap_among(point, next, offset + line.vertices_up_to(point), row))
             return true;
         point = next;
     }
@@ -119,7 +113,7 @@ bool dense_line::has_cap_among(qsizetype first_point, qsizetype end_point, qsize
     int last_row = line.row(first_point);
     for (qsizetype point = first_point; point < end_point; ++point) {
         const int next_row = line.row(point);
-        vertex += next_row != last_row ? 1 : 0;
+        vertex += line.window().vertices_of_change(last_row, next_row);
         last_row = next_row;
         if (next_row == row && ends_a_piece(vertex))
             return true;
@@ -127,34 +121,67 @@ bool dense_line::has_cap_among(qsizetype first_point, qsizetype end_point, qsize
     return false;
 }
 
-// The steps from the point outside on the left to the first bar, from bar to bar, and to the point
-// outside on the right. Steps of one piece are drawn at once.
-void dense_line::draw_pieces(QPainter& painter) const
+void dense_line::draw_bars(QPainter& painter) const
+{
+    const QPen pen = painter.pen();
+    const double cap = pen.widthF() / 2.0;
+    QList<QLineF> lines;
+    for (const bar& each : bars) {
+        const double from = std::max<double>(each.top, clip.top()) - (each.cap_above ? cap : 0.0);
+        const double to =
+            std::min<double>(each.bottom, clip.bottom()) + (each.cap_below ? cap : 0.0);
+        if (from < to)
+            lines.append(QLineF(each.column, from, each.column, to));
+    }
+    QPen without_caps = pen;
+    without_caps.setCapStyle(Qt::FlatCap);
+    painter.setPen(without_caps);
+    painter.drawLines(lines);
+    painter.setPen(pen);
+}
+
+void dense_line::draw_steps(QPainter& painter) const
 {
     const double width = painter.pen().widthF();
     const int pen_width = static_cast<int>(std::ceil(width));
-    // The corners of a cap are farthest away; a pixel is set where its centre is covered.
-    const int reach = static_cast<int>(std::ceil(width * std::numbers::sqrt2 / 2.0 - 0.5));
     std::optional<stretch> shown;
-    const auto add = [&](const vertex& from) {
-        if (shown && piece_of(shown->from) == piece_of(from)) {
-            shown->to = *next(from);
-            return;
+    for (const place& step : shown_steps(width)) {
+        if (shown && continues(*shown, step)) {
+            shown->to = *next(step);
+            continue;
         }
         if (shown)
             draw_stretch(*shown, pen_width, painter);
-        shown = stretch{from, *next(from)};
-    };
-    if (first > 0)
-        add({0, first - 1, -1});
-    for (qsizetype i = 0; i + 1 < bars.size(); ++i) {
-        if (!hides_step(bars[i], bars[i + 1], reach))
-            add({bars[i].last_vertex, bars[i].last, i});
+        shown = stretch{step, *next(step)};
     }
-    if (end < line.size())
-        add({bars.last().last_vertex, bars.last().last, bars.size() - 1});
     if (shown)
         draw_stretch(*shown, pen_width, painter);
+}
+
+// Where the steps start that can be seen: from the point outside on the left to the first bar, from
+// bar to bar, and to the point outside on the right.
+QList<dense_line::place> dense_line::shown_steps(double pen_width) const
+{
+    // The corners of a cap are farthest away; a pixel is set where its centre is covered.
+    const int reach = static_cast<int>(std::ceil(pen_width * std::numbers::sqrt2 / 2.0 - 0.5));
+    QList<place> steps;
+    if (first > 0 && !is_cut_off(first - 1, first))
+        steps.append({0, first - 1, -1});
+    for (qsizetype i = 0; i + 1 < bars.size(); ++i) {
+        const bar& left = bars[i];
+        if (!is_cut_off(left.last, left.last + 1) && !hides_step(left, bars[i + 1], reach))
+            steps.append({left.last_vertex, left.last, i});
+    }
+    if (end < line.size() && !is_cut_off(end - 1, end))
+        steps.append({bars.last().last_vertex, end - 1, bars.size() - 1});
+    return steps;
+}
+
+// Whether both points lie beyond the same edge.
+bool dense_line::is_cut_off(qsizetype point, qsizetype next_point) const
+{
+    const auto [upper, lower] = std::minmax({line.row(point), line.row(next_point)});
+    return lower < clip.top() || upper > clip.bottom();
 }
 
 // Whether the bars of two neighbouring columns cover all that the step between them may set.
@@ -168,30 +195,37 @@ bool dense_line::hides_step(const bar& left, const bar& right, int reach) const
            lower + reach <= std::min(left.bottom + left.cap_below, right.bottom + right.cap_below);
 }
 
-qsizetype dense_line::piece_of(const vertex& start_of_step)
+// Whether a step belongs to the piece of a stretch and is joined with it within the canvas:
+// outside, there may be any number of points between two vertices.
+bool dense_line::continues(const stretch& shown, const place& step) const
 {
-    return start_of_step.number / edges_of_a_piece;
+    if (shown.from.vertex / edges_of_a_piece != step.vertex / edges_of_a_piece)
+        return false;
+    std::optional<place> each = shown.to;
+    while (each && each->vertex < step.vertex && line.window().has(line.row(each->point)))
+        each = next(*each);
+    return each && each->bar == step.bar && line.window().has(line.row(each->point));
 }
 
 void dense_line::draw_stretch(const stretch& shown, int pen_width, QPainter& painter) const
 {
-    QPolygon vertices;
+    QPolygonF vertices;
     add_lead(shown.from, &dense_line::previous, pen_width, vertices);
     std::ranges::reverse(vertices);
-    for (vertex each = shown.from; each.number < shown.to.number; each = *next(each))
+    for (place each = shown.from; each.bar < shown.to.bar; each = *next(each))
         vertices.append(line.pixel(each.point));
     vertices.append(line.pixel(shown.to.point));
     add_lead(shown.to, &dense_line::next, pen_width, vertices);
-    QwtClipper::clipPolygon(clip, vertices, false);
+    QwtClipper::clipPolygonF(clip, vertices, false);
     painter.drawPolyline(vertices);
 }
 
 // Adds what of the same piece comes next behind or before a stretch, as far as the joint at its end
-// shows: what lies deeper in a bar, or in a hidden step, is drawn already.
-void dense_line::add_lead(vertex from, neighbour step, int pen_width, QPolygon& vertices) const
+// shows: what lies deeper in a bar, in a hidden step or outside of the canvas is not needed.
+void dense_line::add_lead(place from, neighbour step, int pen_width, QPolygonF& vertices) const
 {
-    while (!ends_a_piece(from.number)) {
-        const std::optional<vertex> other = (this->*step)(from);
+    while (line.window().has(line.row(from.point)) && !ends_a_piece(from.vertex)) {
+        const std::optional<place> other = (this->*step)(from);
         if (!other)
             return;
         const QPoint here = line.pixel(from.point);
@@ -206,22 +240,33 @@ void dense_line::add_lead(vertex from, neighbour step, int pen_width, QPolygon& 
     }
 }
 
-std::optional<dense_line::vertex> dense_line::next(const vertex& from) const
+std::optional<dense_line::place> dense_line::next(const place& from) const
 {
+    const row_window& window = line.window();
     if (from.bar >= 0 && from.bar < bars.size()) {
-        if (const auto point = line.next_row(from.point, bars[from.bar].last))
-            return vertex{from.number + 1, *point, from.bar};
+        if (const auto point = line.next_row(from.point, bars[from.bar].last)) {
+            const int added = window.vertices_of_change(line.row(from.point), line.row(*point));
+            return place{from.vertex + added, *point, from.bar};
+        }
     }
-    const qsizetype point = from.bar < 0 ? first : bars[from.bar].last + 1;
-    if (from.bar == bars.size() || point == line.size())
+    const qsizetype bar = from.bar + 1;
+    if (bar < bars.size())
+        return place{bars[bar].first_vertex, bars[bar].first, bar};
+    if (bar > bars.size() || end == line.size())
         return std::nullopt;
-    return vertex{from.number + 1, point, from.bar + 1};
+    return place{bars.last().last_vertex + 1, end, bar};
 }
 
-std::optional<dense_line::vertex> dense_line::previous(const vertex& from) const
+std::optional<dense_line::place> dense_line::previous(const place& from) const
 {
-    if (const auto point = line.previous_row(from.point, bars[from.bar].first))
-        return vertex{from.number - 1, *point, from.bar};
-    const qsizetype point = bars[from.bar].first - 1;
-    return vertex{from.number - 1, point, from.bar - 1};
+    const row_window& window = line.window();
+    if (from.bar < 0)
+        return std::nullopt;
+    if (const auto point = line.previous_row(from.point, bars[from.bar].first)) {
+        const int added = window.vertices_of_change(line.row(*point), line.row(from.point));
+        return place{from.vertex - added, *point, from.bar};
+    }
+    if (from.bar > 0)
+        return place{bars[from.bar - 1].last_vertex, bars[from.bar - 1].last, from.bar - 1};
+    return first > 0 ? std::optional(place{0, first - 1, -1}) : std::nullopt;
 }

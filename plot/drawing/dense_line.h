@@ -3,8 +3,8 @@
 #include "plot/drawing/sampled_line.h"
 
 #include <QList>
-#include <QPolygon>
-#include <QRect>
+#include <QPolygonF>
+#include <QRectF>
 
 #include <optional>
 
@@ -16,66 +16,72 @@ class QPainter;
 /// Qwt leaves out points on the pixel of the point before, cuts the rest off at the edges, and
 /// draws the line as pieces of seven vertices, each with square caps (vertices 0 to 6, 6 to 12, …).
 /// What lies within one pixel column of such a line is a vertical bar, longer by a cap where a
-/// piece ends at its tip. So the bars are drawn, and of the pieces only those that lead to another
-/// column and are not hidden by the bars of both. Only a line that leaves the canvas at its top or
-/// bottom may have its caps elsewhere, since vertices that the cut adds are not counted.
+/// piece ends at its tip. So the bars are drawn, and of the pieces only the steps from one column
+/// to another, and of these only those that the bars of both columns do not hide.
 class dense_line
 {
 public:
     /// `clip` is the rectangle at which Qwt cuts the line off. The points from `first` to the one
     /// before `end` are those within its columns; there is at least one.
-    dense_line(const sampled_line& line, const QRect& clip, qsizetype first, qsizetype end);
+    dense_line(const sampled_line& line, const QRectF& clip, qsizetype first, qsizetype end);
 
     /// Draws with the pen of `painter`, which must be solid and wider than one pixel.
     void draw(QPainter& painter) const;
 
 private:
-    // The points in one pixel column.
+    // The points in one pixel column. A point's vertex is the last one that the line gets up to it:
+    // its own, or that at the edge where the line leaves the canvas before it.
     struct bar
     {
         int column;
-        qsizetype first;        // point
-        qsizetype last;         // point
-        qsizetype first_vertex; // the number of the first point's vertex in the line
+        qsizetype first; // point
+        qsizetype last;
+        qsizetype first_vertex;
         qsizetype last_vertex;
-        int top; // pixel rows of the points
+        int top; // row
         int bottom;
-        bool cap_above; // whether a piece ends there
-        bool cap_below;
+        bool cap_above = false; // whether a piece ends at the top
+        bool cap_below = false;
     };
 
-    void find_bars();
-    bar bar_of(qsizetype first_point, qsizetype end_point, qsizetype first_vertex) const;
-    void draw_bars(QPainter& painter) const;
-    bool has_cap_in(const bar& each, int row) const;
-    bool has_cap_among(qsizetype first_point, qsizetype end_point, qsizetype first_vertex,
-                       int row) const;
-    // A vertex of the line, by one of its points. The points outside belong to bars of their own.
-    struct vertex
+    // A point of the line with its vertex, in the bar of this index. The points just outside belong
+    // to the bars -1 and one behind the last.
+    struct place
     {
-        qsizetype number;
+        qsizetype vertex;
         qsizetype point;
         qsizetype bar;
     };
 
+    // Steps that are drawn at once, since they belong to one piece.
     struct stretch
     {
-        vertex from;
-        vertex to;
+        place from;
+        place to;
     };
 
-    using neighbour = std::optional<vertex> (dense_line::*)(const vertex&) const;
+    using neighbour = std::optional<place> (dense_line::*)(const place&) const;
 
-    void draw_pieces(QPainter& painter) const;
+    void find_bars();
+    qsizetype vertex_of_first_point() const;
+    bar bar_of(qsizetype first_point, qsizetype end_point, qsizetype first_vertex) const;
+    bool has_cap_in(const bar& each, int row) const;
+    bool has_cap_among(qsizetype first_point, qsizetype end_point, qsizetype first_vertex,
+                       int row) const;
+
+    void draw_bars(QPainter& painter) const;
+    void draw_steps(QPainter& painter) const;
+    QList<place> shown_steps(double pen_width) const;
+    bool is_cut_off(qsizetype point, qsizetype next_point) const;
     bool hides_step(const bar& left, const bar& right, int reach) const;
-    static qsizetype piece_of(const vertex& start_of_step);
+    bool continues(const stretch& shown, const place& step) const;
     void draw_stretch(const stretch& shown, int pen_width, QPainter& painter) const;
-    void add_lead(vertex from, neighbour step, int pen_width, QPolygon& vertices) const;
-    std::optional<vertex> next(const vertex& from) const;
-    std::optional<vertex> previous(const vertex& from) const;
+    void add_lead(place from, neighbour step, int pen_width, QPolygonF& vertices) const;
+    std::optional<place> next(const place& from) const;
+    std::optional<place> previous(const place& from) const;
 
     const sampled_line& line;
-    QRect clip;
+    QRectF clip;
     qsizetype first;
     qsizetype end;
     QList<bar> bars;

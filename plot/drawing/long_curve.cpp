@@ -5,6 +5,7 @@
 
 #include <QPaintEngine>
 #include <QPainter>
+#include <QtMath>
 
 #include <qwt_painter.h>
 #include <qwt_point_data.h>
@@ -14,7 +15,7 @@
 
 namespace {
 
-constexpr qsizetype points_per_column = 2; // up to so many, Qwt draws them as quickly
+constexpr double points_per_column = 2.0; // up to so many, Qwt draws them as quickly
 
 std::span<const double> values_of(const QList<double>& list)
 {
@@ -22,12 +23,12 @@ std::span<const double> values_of(const QList<double>& list)
 }
 
 // Where Qwt cuts a line off: outside of the canvas by the width of the pen.
-QRect clip_rectangle(const QPainter& painter, QRectF canvas)
+QRectF clip_rectangle(const QPainter& painter, QRectF canvas)
 {
     if (painter.hasClipping())
         canvas &= painter.clipBoundingRect();
     const double width = QwtPainter::effectivePenWidth(painter.pen());
-    return canvas.adjusted(-width, -width, width, width).toAlignedRect();
+    return canvas.adjusted(-width, -width, width, width);
 }
 
 // Whether Qwt draws on whole pixels and cuts the line in pieces. Otherwise, as in a PDF, the
@@ -86,12 +87,13 @@ void long_curve::drawLines(QPainter* painter, const QwtScaleMap& x_map, const Qw
         QwtPlotCurve::drawLines(painter, x_map, y_map, canvas, from, to);
         return;
     }
-    const QRect clip = clip_rectangle(*painter, canvas);
+    const QRectF clip = clip_rectangle(*painter, canvas);
     samples->set_x_scale(x_map);
-    const qsizetype first = samples->first_from_column(clip.left(), 0, samples->size());
-    const qsizetype end = samples->first_from_column(clip.right() + 1, first, samples->size());
-    if (end - first > points_per_column * clip.width()) {
-        samples->set_y_scale(y_map);
+    const qsizetype first = samples->first_from_column(qCeil(clip.left()), 0, samples->size());
+    const qsizetype end =
+        samples->first_from_column(qFloor(clip.right()) + 1, first, samples->size());
+    if (static_cast<double>(end - first) > points_per_column * clip.width()) {
+        samples->set_y_scale(y_map, {qCeil(clip.top()), qFloor(clip.bottom())});
         dense_line(*samples, clip, first, end).draw(*painter);
         return;
     }

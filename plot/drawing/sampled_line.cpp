@@ -11,11 +11,20 @@ sampled_line::sampled_line(std::span<const double> x, std::span<const double> y)
 {
 }
 
-void sampled_line::set_y_scale(const QwtScaleMap& scale)
+void sampled_line::set_y_scale(const QwtScaleMap& scale, row_window window)
 {
     y_map = scale;
-    if (!counted || !counted->hold_for(y_map))
-        counted = std::make_unique<row_changes>(y, y_map);
+    rows = without_idle_edges(window);
+    if (!counted || !counted->holds_for(y_map, rows))
+        counted = std::make_unique<vertex_count>(y, y_map, rows);
+}
+
+// An edge that the line does not reach is moved with the line, so that panning changes nothing.
+row_window sampled_line::without_idle_edges(const row_window& window) const
+{
+    const auto [low, high] = blocks.range(0, size());
+    const auto [top, bottom] = std::minmax({row_of(low), row_of(high)});
+    return {std::max(window.top, top), std::min(window.bottom, bottom)};
 }
 
 // Searches in steps that grow, since the column is mostly near.
