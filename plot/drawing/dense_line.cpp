@@ -2,12 +2,13 @@
 
 #include <QPainter>
 #include <QPen>
+#include <QtMath>
 
 #include <qwt_clipper.h>
 
 #include <algorithm>
-#include <cmath>
 #include <cstdlib>
+#include <limits>
 #include <numbers>
 
 namespace {
@@ -29,13 +30,16 @@ double row_of_entry(const QPointF& outside, const QPointF& inside, const QRectF&
 
 } // namespace
 
-dense_line::dense_line(const sampled_line& line, const QRectF& clip, qsizetype first, qsizetype end)
+dense_line::dense_line(const sampled_line& line, const QRectF& clip, double pen_width,
+                       qsizetype first, qsizetype end)
     : line(line)
     , clip(clip)
+    , pen_width(pen_width)
     , first(first)
     , end(end)
 {
     find_bars();
+    find_caps();
 }
 
 void dense_line::draw(QPainter& painter) const
@@ -71,18 +75,38 @@ qsizetype dense_line::vertex_of_first_point() const
 dense_line::bar dense_line::bar_of(qsizetype first_point, qsizetype end_point,
                                    qsizetype first_vertex) const
 {
-    const auto [low, high] = line.values().range(first_point, end_point);
-    const auto [top, bottom] = std::minmax({line.row_of(low), line.row_of(high)});
+    const auto [top, bottom] = line.rows_of(first_point, end_point);
     const qsizetype last_point = end_point - 1;
     const qsizetype last_vertex =
         first_vertex + line.vertices_up_to(last_point) - line.vertices_up_to(first_point);
-    bar found{
+    return {
         line.column(first_point), first_point, last_point, first_vertex, last_vertex, top, bottom};
-    if (top < bottom) {
-        found.cap_above = has_cap_in(found, top);
-        found.cap_below = has_cap_in(found, bottom);
+}
+
+void dense_line::find_caps()
+{
+    for (qsizetype i = 0; i < bars.size(); ++i) {
+        bar& each = bars[i];
+        if (each.top == each.bottom)
+            continue;
+        const row_range hidden = rows_beside(i);
+        const double cap = pen_width / 2.0;
+        each.cap_above = hidden.top > each.top - cap && has_cap_in(each, each.top);
+        each.cap_below = hidden.bottom < each.bottom + cap && has_cap_in(each, each.bottom);
     }
-    return found;
+}
+
+// The rows that the bars on both sides have in common: as wide as a bar, they hide its caps there.
+row_range dense_line::rows_beside(qsizetype index) const
+{
+    constexpr row_range none{std::numeric_limits<int>::max(), std::numeric_limits<int>::min()};
+    if (index == 0 || index + 1 == bars.size())
+        return none;
+    const bar& left = bars[index - 1];
+    const bar& right = bars[index + 1];
+    if (right.column != left.column + 2)
+        return none;
+    return {std::max(left.top, right.top), std::min(left.bottom, right.bottom)};
 }
 
 // Whether a piece ends in the row, which is the top or the bottom one.
@@ -95,7 +119,7 @@ bool dense_line::has_cap_in(const bar& each, int row) const
     for (qsizetype point = each.first; point <= each.last;) {
         const qsizetype block = point / value_blocks::length;
         const qsizetype next = std::min((block + 1) * value_blocks::length, each.last + 1);
-        if (line.block_reaches(block, row) &&
+        if (line.rows_of_block(block).has(row) &&
             has_cap_among(point, next, offset + line.vertices_up_to(point), row))
             return true;
         point = next;
@@ -107,7 +131,7 @@ bool dense_line::has_cap_in(const bar& each, int row) const
 bool dense_line::has_cap_among(qsizetype first_point, qsizetype end_point, qsizetype first_vertex,
                                int row) const
 {
-    if (line.block_lies_in(first_point / value_blocks::length, row))
+    if (line.rows_of_block(first_point / value_blocks::length).is_one(row))
         return ends_a_piece(first_vertex);
     qsizetype vertex = first_vertex;
     int last_row = line.row(first_point);
@@ -121,49 +145,49 @@ bool dense_line::has_cap_among(qsizetype first_point, qsizetype end_point, qsize
     return false;
 }
 
+// As rectangles, since these are filled in a fraction of the time that lines take.
 void dense_line::draw_bars(QPainter& painter) const
 {
     const QPen pen = painter.pen();
-    const double cap = pen.widthF() / 2.0;
-    QList<QLineF> lines;
+    const double cap = pen_width / 2.0;
+    QList<QRectF> rectangles;
     for (const bar& each : bars) {
         const double from = std::max<double>(each.top, clip.top()) - (each.cap_above ? cap : 0.0);
         const double to =
             std::min<double>(each.bottom, clip.bottom()) + (each.cap_below ? cap : 0.0);
         if (from < to)
-            lines.append(QLineF(each.column, from, each.column, to));
+            rectangles.append(QRectF(each.column - cap, from, 2.0 * cap, to - from));
     }
-    QPen without_caps = pen;
-    without_caps.setCapStyle(Qt::FlatCap);
-    painter.setPen(without_caps);
-    painter.drawLines(lines);
+    const QBrush brush = painter.brush();
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(pen.color());
+    painter.drawRects(rectangles);
+    painter.setBrush(brush);
     painter.setPen(pen);
 }
 
 void dense_line::draw_steps(QPainter& painter) const
 {
-    const double width = painter.pen().widthF();
-    const int pen_width = static_cast<int>(std::ceil(width));
     std::optional<stretch> shown;
-    for (const place& step : shown_steps(width)) {
+    for (const place& step : shown_steps()) {
         if (shown && continues(*shown, step)) {
             shown->to = *next(step);
             continue;
         }
         if (shown)
-            draw_stretch(*shown, pen_width, painter);
+            draw_stretch(*shown, painter);
         shown = stretch{step, *next(step)};
     }
     if (shown)
-        draw_stretch(*shown, pen_width, painter);
+        draw_stretch(*shown, painter);
 }
 
 // Where the steps start that can be seen: from the point outside on the left to the first bar, from
 // bar to bar, and to the point outside on the right.
-QList<dense_line::place> dense_line::shown_steps(double pen_width) const
+QList<dense_line::place> dense_line::shown_steps() const
 {
     // The corners of a cap are farthest away; a pixel is set where its centre is covered.
-    const int reach = static_cast<int>(std::ceil(pen_width * std::numbers::sqrt2 / 2.0 - 0.5));
+    const int reach = qCeil(pen_width * std::numbers::sqrt2 / 2.0 - 0.5);
     QList<place> steps;
     if (first > 0 && !is_cut_off(first - 1, first))
         steps.append({0, first - 1, -1});
@@ -207,23 +231,24 @@ bool dense_line::continues(const stretch& shown, const place& step) const
     return each && each->bar == step.bar && line.window().has(line.row(each->point));
 }
 
-void dense_line::draw_stretch(const stretch& shown, int pen_width, QPainter& painter) const
+void dense_line::draw_stretch(const stretch& shown, QPainter& painter) const
 {
     QPolygonF vertices;
-    add_lead(shown.from, &dense_line::previous, pen_width, vertices);
+    add_lead(shown.from, &dense_line::previous, vertices);
     std::ranges::reverse(vertices);
     for (place each = shown.from; each.bar < shown.to.bar; each = *next(each))
         vertices.append(line.pixel(each.point));
     vertices.append(line.pixel(shown.to.point));
-    add_lead(shown.to, &dense_line::next, pen_width, vertices);
+    add_lead(shown.to, &dense_line::next, vertices);
     QwtClipper::clipPolygonF(clip, vertices, false);
     painter.drawPolyline(vertices);
 }
 
 // Adds what of the same piece comes next behind or before a stretch, as far as the joint at its end
 // shows: what lies deeper in a bar, in a hidden step or outside of the canvas is not needed.
-void dense_line::add_lead(place from, neighbour step, int pen_width, QPolygonF& vertices) const
+void dense_line::add_lead(place from, neighbour step, QPolygonF& vertices) const
 {
+    const int stub = qCeil(pen_width);
     while (line.window().has(line.row(from.point)) && !ends_a_piece(from.vertex)) {
         const std::optional<place> other = (this->*step)(from);
         if (!other)
@@ -232,8 +257,8 @@ void dense_line::add_lead(place from, neighbour step, int pen_width, QPolygonF& 
         const QPoint there = line.pixel(other->point);
         const int rows = there.y() - here.y();
         const bool leaves_bar = other->bar != from.bar;
-        const bool is_long = !leaves_bar && std::abs(rows) >= 2 * pen_width;
-        vertices.append(is_long ? here + QPoint(0, rows > 0 ? pen_width : -pen_width) : there);
+        const bool is_long = !leaves_bar && std::abs(rows) >= 2 * stub;
+        vertices.append(is_long ? here + QPoint(0, rows > 0 ? stub : -stub) : there);
         if (is_long || leaves_bar)
             return;
         from = *other;

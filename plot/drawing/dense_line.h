@@ -22,10 +22,12 @@ class dense_line
 {
 public:
     /// `clip` is the rectangle at which Qwt cuts the line off. The points from `first` to the one
-    /// before `end` are those within its columns; there is at least one.
-    dense_line(const sampled_line& line, const QRectF& clip, qsizetype first, qsizetype end);
+    /// before `end` are those within its columns; there is at least one. The pen is wider than one
+    /// pixel.
+    dense_line(const sampled_line& line, const QRectF& clip, double pen_width, qsizetype first,
+               qsizetype end);
 
-    /// Draws with the pen of `painter`, which must be solid and wider than one pixel.
+    /// Draws with the pen of `painter`, which must be solid.
     void draw(QPainter& painter) const;
 
 private:
@@ -40,7 +42,7 @@ private:
         qsizetype last_vertex;
         int top; // row
         int bottom;
-        bool cap_above = false; // whether a piece ends at the top
+        bool cap_above = false; // whether a piece ends at the top and can be seen there
         bool cap_below = false;
     };
 
@@ -65,23 +67,26 @@ private:
     void find_bars();
     qsizetype vertex_of_first_point() const;
     bar bar_of(qsizetype first_point, qsizetype end_point, qsizetype first_vertex) const;
+    void find_caps();
+    row_range rows_beside(qsizetype index) const;
     bool has_cap_in(const bar& each, int row) const;
     bool has_cap_among(qsizetype first_point, qsizetype end_point, qsizetype first_vertex,
                        int row) const;
 
     void draw_bars(QPainter& painter) const;
     void draw_steps(QPainter& painter) const;
-    QList<place> shown_steps(double pen_width) const;
+    QList<place> shown_steps() const;
     bool is_cut_off(qsizetype point, qsizetype next_point) const;
     bool hides_step(const bar& left, const bar& right, int reach) const;
     bool continues(const stretch& shown, const place& step) const;
-    void draw_stretch(const stretch& shown, int pen_width, QPainter& painter) const;
-    void add_lead(place from, neighbour step, int pen_width, QPolygonF& vertices) const;
+    void draw_stretch(const stretch& shown, QPainter& painter) const;
+    void add_lead(place from, neighbour step, QPolygonF& vertices) const;
     std::optional<place> next(const place& from) const;
     std::optional<place> previous(const place& from) const;
 
     const sampled_line& line;
     QRectF clip;
+    double pen_width;
     qsizetype first;
     qsizetype end;
     QList<bar> bars;

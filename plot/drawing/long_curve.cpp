@@ -73,7 +73,7 @@ QRectF long_curve::boundingRect() const
     const sampled_line* const samples = orderly_line();
     if (!samples)
         return QwtPlotCurve::boundingRect();
-    const auto [low, high] = samples->values().range(0, samples->size());
+    const auto [low, high] = samples->extent();
     const double left = samples->x_of(0);
     return {left, low, samples->x_of(samples->size() - 1) - left, high - low};
 }
@@ -94,7 +94,7 @@ void long_curve::drawLines(QPainter* painter, const QwtScaleMap& x_map, const Qw
         samples->first_from_column(qFloor(clip.right()) + 1, first, samples->size());
     if (static_cast<double>(end - first) > points_per_column * clip.width()) {
         samples->set_y_scale(y_map, {qCeil(clip.top()), qFloor(clip.bottom())});
-        dense_line(*samples, clip, first, end).draw(*painter);
+        dense_line(*samples, clip, painter->pen().widthF(), first, end).draw(*painter);
         return;
     }
     // Of the points outside, only the nearest ones are joined with what can be seen.

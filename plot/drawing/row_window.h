@@ -1,5 +1,15 @@
 #pragma once
 
+/// The pixel rows of some points, the upper one first.
+struct row_range
+{
+    int top;
+    int bottom;
+
+    bool has(int row) const { return row >= top && row <= bottom; }
+    bool is_one(int row) const { return row == top && row == bottom; }
+};
+
 /// The pixel rows between which Qwt keeps a line: what leaves them is cut off, with one more vertex
 /// at the edge wherever the line crosses it.
 struct row_window

@@ -1,6 +1,7 @@
 #include "plot/drawing/sampled_line.h"
 
 #include <algorithm>
+#include <limits>
 
 sampled_line::sampled_line(std::span<const double> x, std::span<const double> y)
     : x(x)
@@ -11,20 +12,49 @@ sampled_line::sampled_line(std::span<const double> x, std::span<const double> y)
 {
 }
 
+// An edge that the line does not reach is moved to the line, so that panning does not change it.
 void sampled_line::set_y_scale(const QwtScaleMap& scale, row_window window)
 {
     y_map = scale;
-    rows = without_idle_edges(window);
-    if (!counted || !counted->holds_for(y_map, rows))
-        counted = std::make_unique<vertex_count>(y, y_map, rows);
+    block_rows.clear();
+    for (qsizetype i = 0; i < blocks.count(); ++i)
+        block_rows.push_back(rows_of(blocks.block(i)));
+    const row_range all = rows_of(extent());
+    kept = {std::max(window.top, all.top), std::min(window.bottom, all.bottom)};
+    if (!counted || !counted->holds_for(y_map, kept))
+        counted = std::make_unique<vertex_count>(y, y_map, kept);
 }
 
-// An edge that the line does not reach is moved with the line, so that panning changes nothing.
-row_window sampled_line::without_idle_edges(const row_window& window) const
+row_range sampled_line::rows_of(const value_blocks::extent& values) const
 {
-    const auto [low, high] = blocks.range(0, size());
-    const auto [top, bottom] = std::minmax({row_of(low), row_of(high)});
-    return {std::max(window.top, top), std::min(window.bottom, bottom)};
+    const auto [top, bottom] =
+        std::minmax({pixel_of(y_map, values.low), pixel_of(y_map, values.high)});
+    return {top, bottom};
+}
+
+row_range sampled_line::rows_of_points(qsizetype first, qsizetype end) const
+{
+    row_range rows{std::numeric_limits<int>::max(), std::numeric_limits<int>::min()};
+    for (qsizetype i = first; i < end; ++i)
+        rows = {std::min(rows.top, row(i)), std::max(rows.bottom, row(i))};
+    return rows;
+}
+
+row_range sampled_line::rows_of(qsizetype first, qsizetype end) const
+{
+    constexpr qsizetype length = value_blocks::length;
+    const qsizetype first_block = (first + length - 1) / length;
+    const qsizetype end_block = end / length;
+    if (first_block >= end_block)
+        return rows_of_points(first, end);
+    row_range rows = rows_of_points(first, first_block * length);
+    const auto add = [&rows](const row_range& more) {
+        rows = {std::min(rows.top, more.top), std::max(rows.bottom, more.bottom)};
+    };
+    for (qsizetype i = first_block; i < end_block; ++i)
+        add(rows_of_block(i));
+    add(rows_of_points(end_block * length, end));
+    return rows;
 }
 
 // Searches in steps that grow, since the column is mostly near.
@@ -48,7 +78,7 @@ std::optional<qsizetype> sampled_line::next_row(qsizetype index, qsizetype last)
     const int here = row(index);
     qsizetype i = index + 1;
     while (i <= last) {
-        if (i % value_blocks::length == 0 && block_lies_in(i / value_blocks::length, here))
+        if (i % value_blocks::length == 0 && rows_of_block(i / value_blocks::length).is_one(here))
             i += value_blocks::length;
         else if (row(i) == here)
             ++i;
@@ -63,7 +93,8 @@ std::optional<qsizetype> sampled_line::previous_row(qsizetype index, qsizetype f
     const int here = row(index);
     qsizetype i = index;
     while (i > first) {
-        if (i % value_blocks::length == 0 && block_lies_in(i / value_blocks::length - 1, here))
+        if (i % value_blocks::length == 0 &&
+            rows_of_block(i / value_blocks::length - 1).is_one(here))
             i -= value_blocks::length;
         else if (row(i - 1) == here)
             --i;

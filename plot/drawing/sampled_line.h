@@ -10,6 +10,7 @@
 #include <memory>
 #include <optional>
 #include <span>
+#include <vector>
 
 /// A series of points as a plot draws it with its present scales: which pixel each point has, and
 /// how the points of a stretch can be told without looking at each of them.
@@ -26,7 +27,8 @@ public:
     qsizetype size() const { return static_cast<qsizetype>(x.size()); }
     double x_of(qsizetype index) const { return x[static_cast<std::size_t>(index)]; }
 
-    const value_blocks& values() const { return blocks; }
+    /// The range of all values.
+    value_blocks::extent extent() const { return blocks.all(); }
 
     /// Sets the scale that columns refer to. It must not be inverted.
     void set_x_scale(const QwtScaleMap& scale) { x_map = scale; }
@@ -42,10 +44,9 @@ public:
     void set_y_scale(const QwtScaleMap& scale, row_window window);
 
     /// The rows of the line that are kept.
-    const row_window& window() const { return rows; }
+    const row_window& window() const { return kept; }
 
-    int row_of(double value) const { return pixel_of(y_map, value); }
-    int row(qsizetype index) const { return row_of(y[static_cast<std::size_t>(index)]); }
+    int row(qsizetype index) const { return pixel_of(y_map, y[static_cast<std::size_t>(index)]); }
     QPoint pixel(qsizetype index) const { return {column(index), row(index)}; }
 
     /// The vertices that the points up to and including `index` make in one pixel column; only
@@ -57,23 +58,18 @@ public:
     /// The nearest point before `index`, `first` at least, that has another row.
     std::optional<qsizetype> previous_row(qsizetype index, qsizetype first) const;
 
-    /// Whether all points of a block lie in this row.
-    bool block_lies_in(qsizetype block, int row) const
-    {
-        const auto [low, high] = blocks.block(block);
-        return row_of(low) == row && row_of(high) == row;
-    }
+    /// The rows of the points from `first` to the one before `end`; there must be at least one.
+    row_range rows_of(qsizetype first, qsizetype end) const;
 
-    /// Whether the points of a block may lie in this row.
-    bool block_reaches(qsizetype block, int row) const
+    /// The rows of a block of points, as value_blocks has them.
+    const row_range& rows_of_block(qsizetype block) const
     {
-        const auto [low, high] = blocks.block(block);
-        return y_map.isInverting() ? row_of(high) <= row && row <= row_of(low)
-                                   : row_of(low) <= row && row <= row_of(high);
+        return block_rows[static_cast<std::size_t>(block)];
     }
 
 private:
-    row_window without_idle_edges(const row_window& window) const;
+    row_range rows_of(const value_blocks::extent& values) const;
+    row_range rows_of_points(qsizetype first, qsizetype end) const;
 
     std::span<const double> x;
     std::span<const double> y;
@@ -81,6 +77,7 @@ private:
     bool orderly;
     QwtScaleMap x_map;
     QwtScaleMap y_map;
-    row_window rows{0, 0};
+    row_window kept{0, 0};
+    std::vector<row_range> block_rows;
     std::unique_ptr<const vertex_count> counted;
 };

@@ -47,19 +47,10 @@ value_blocks::value_blocks(std::span<const double> values)
     }
 }
 
-value_blocks::extent value_blocks::range(qsizetype first, qsizetype end) const
+value_blocks::extent value_blocks::all() const
 {
-    const auto part = [this](qsizetype from, qsizetype to) {
-        return range_of(
-            values.subspan(static_cast<std::size_t>(from), static_cast<std::size_t>(to - from)));
-    };
-    const qsizetype first_block = (first + length - 1) / length;
-    const qsizetype end_block = end / length;
-    if (first_block >= end_block)
-        return part(first, end);
-    extent range = part(first, first_block * length);
-    for (qsizetype i = first_block; i < end_block; ++i)
-        range = widened(range, block(i).low, block(i).high);
-    const extent rest = part(end_block * length, end);
-    return widened(range, rest.low, rest.high);
+    extent range = nothing;
+    for (const extent& block : blocks)
+        range = widened(range, block.low, block.high);
+    return range;
 }

@@ -24,10 +24,11 @@ public:
     /// Whether no value is infinite or NaN. If there is one, nothing else here may be asked.
     bool all_are_finite() const { return finite; }
 
+    qsizetype count() const { return static_cast<qsizetype>(blocks.size()); }
     const extent& block(qsizetype index) const { return blocks[static_cast<std::size_t>(index)]; }
 
-    /// The range of the values from `first` to the one before `end`; there must be at least one.
-    extent range(qsizetype first, qsizetype end) const;
+    /// The range of all values; there must be at least one.
+    extent all() const;
 
 private:
     std::span<const double> values;
