@@ -3,6 +3,15 @@
 #include <algorithm>
 #include <limits>
 
+namespace {
+
+bool is_same(const QwtScaleMap& a, const QwtScaleMap& b)
+{
+    return a.p1() == b.p1() && a.p2() == b.p2() && a.s1() == b.s1() && a.s2() == b.s2();
+}
+
+} // namespace
+
 sampled_line::sampled_line(std::span<const double> x, std::span<const double> y)
     : x(x)
     , y(y)
@@ -15,7 +24,10 @@ sampled_line::sampled_line(std::span<const double> x, std::span<const double> y)
 // An edge that the line does not reach is moved to the line, so that panning does not change it.
 void sampled_line::set_y_scale(const QwtScaleMap& scale, row_window window)
 {
+    if (counted && is_same(scale, y_map) && window == asked)
+        return;
     y_map = scale;
+    asked = window;
     block_rows.clear();
     for (qsizetype i = 0; i < blocks.count(); ++i)
         block_rows.push_back(rows_of(blocks.block(i)));

@@ -77,6 +77,7 @@ private:
     bool orderly;
     QwtScaleMap x_map;
     QwtScaleMap y_map;
+    row_window asked{0, 0}; // the window that was set
     row_window kept{0, 0};
     std::vector<row_range> block_rows;
     std::unique_ptr<const vertex_count> counted;
