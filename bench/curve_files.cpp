@@ -18,10 +18,10 @@ QByteArray padded(int value, int width)
 
 } // namespace
 
-QByteArray large_bek_file()
+QByteArray large_bek_file(int basins)
 {
     QByteArray bytes = "   BBez. Bezeichnung                       h    Qg   Qhw      V\n";
-    for (int basin = 0; basin < curve_count; ++basin) {
+    for (int basin = 0; basin < basins; ++basin) {
         for (int row = 0; row < point_count; ++row) {
             const QByteArray name = row == 0 ? "   B" + padded(basin, 4) + " Becken" : QByteArray();
             bytes += name.leftJustified(37) + number(100 + 0.01 * row, 2, 7) +
@@ -33,10 +33,10 @@ QByteArray large_bek_file()
     return bytes;
 }
 
-QByteArray large_dkl_file()
+QByteArray large_dkl_file(int curves)
 {
     QByteArray bytes;
-    for (int curve = 0; curve < curve_count; ++curve) {
+    for (int curve = 0; curve < curves; ++curve) {
         bytes += "  " + QByteArray::number(curve) + "  Drossel" + padded(curve, 4) + "  km 1" +
                  padded(curve, 4) +
                  ".0  GOK = 187.50 m\u00fcNHN\n   Wo [m\u00fcNHN]  Qd [m3/s]\n  " +

@@ -6,17 +6,21 @@
 
 namespace bench {
 
-/// One figure: what was done, how long it took, what it is measured against, and how many times
-/// that it may take at most.
+/// One figure: what was done, how long it took, what it is measured against, how many times that it
+/// may take at most, and the goal that it belongs to. A base that could not be measured is zero.
 struct figure
 {
     std::string what;
-    double milliseconds = 0.0;
+    double milliseconds = 0.0; ///< or the amount, if `unit` is another
     std::string against;
     double base_milliseconds = 0.0;
     double limit = 0.0;
+    std::string goal = "";
+    std::string unit = "ms";
 
     double ratio() const { return milliseconds / base_milliseconds; }
+    bool is_measured() const { return milliseconds > 0.0 && base_milliseconds > 0.0; }
+    bool keeps_limit() const { return is_measured() && ratio() <= limit; }
 };
 
 /// The shortest time in milliseconds of `runs` runs: what disturbs a run only makes it longer.
@@ -35,7 +39,9 @@ double shortest(int runs, const function& run)
     return best;
 }
 
-/// Prints a line for each figure and answers whether all of them keep their limits.
+/// Prints a line for each figure and answers whether all of them keep their limits. Appends them to
+/// the file that the environment variable KORIMO_BENCH_RESULTS names, one a line, with tabs between
+/// goal, what, amount, base, ratio, limit and verdict.
 bool report(const std::vector<figure>& figures);
 
 } // namespace bench

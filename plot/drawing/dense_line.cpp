@@ -169,36 +169,49 @@ void dense_line::draw_bars(QPainter& painter) const
 void dense_line::draw_steps(QPainter& painter) const
 {
     std::optional<stretch> shown;
-    for (const place& step : shown_steps()) {
-        if (shown && continues(*shown, step)) {
-            shown->to = *next(step);
+    for (const stretch& step : shown_steps()) {
+        if (shown && continues(*shown, step.from)) {
+            shown->to = step.to;
             continue;
         }
         if (shown)
             draw_stretch(*shown, painter);
-        shown = stretch{step, *next(step)};
+        shown = step;
     }
     if (shown)
         draw_stretch(*shown, painter);
 }
 
-// Where the steps start that can be seen: from the point outside on the left to the first bar, from
-// bar to bar, and to the point outside on the right.
-QList<dense_line::place> dense_line::shown_steps() const
+// The steps that can be seen: from the point outside on the left to the first bar, from bar to bar,
+// and to the point outside on the right.
+QList<dense_line::stretch> dense_line::shown_steps() const
 {
     // The corners of a cap are farthest away; a pixel is set where its centre is covered.
     const int reach = qCeil(pen_width * std::numbers::sqrt2 / 2.0 - 0.5);
-    QList<place> steps;
-    if (first > 0 && !is_cut_off(first - 1, first))
-        steps.append({0, first - 1, -1});
+    QList<stretch> steps;
+    const auto add = [&](const place& from, const place& to) {
+        if (!is_cut_off(from.point, to.point))
+            steps.append({from, to});
+    };
+    if (first > 0)
+        add({0, first - 1, -1}, start_of(0));
     for (qsizetype i = 0; i + 1 < bars.size(); ++i) {
-        const bar& left = bars[i];
-        if (!is_cut_off(left.last, left.last + 1) && !hides_step(left, bars[i + 1], reach))
-            steps.append({left.last_vertex, left.last, i});
+        if (!hides_step(bars[i], bars[i + 1], reach))
+            add(end_of(i), start_of(i + 1));
     }
-    if (end < line.size() && !is_cut_off(end - 1, end))
-        steps.append({bars.last().last_vertex, end - 1, bars.size() - 1});
+    if (end < line.size())
+        add(end_of(bars.size() - 1), {bars.last().last_vertex + 1, end, bars.size()});
     return steps;
+}
+
+dense_line::place dense_line::start_of(qsizetype bar) const
+{
+    return {bars[bar].first_vertex, bars[bar].first, bar};
+}
+
+dense_line::place dense_line::end_of(qsizetype bar) const
+{
+    return {bars[bar].last_vertex, bars[bar].last, bar};
 }
 
 // Whether both points lie beyond the same edge.
@@ -236,8 +249,11 @@ void dense_line::draw_stretch(const stretch& shown, QPainter& painter) const
     QPolygonF vertices;
     add_lead(shown.from, &dense_line::previous, vertices);
     std::ranges::reverse(vertices);
-    for (place each = shown.from; each.bar < shown.to.bar; each = *next(each))
-        vertices.append(line.pixel(each.point));
+    std::optional<place> each = shown.from;
+    while (each && each->bar < shown.to.bar) {
+        vertices.append(line.pixel(each->point));
+        each = next(*each);
+    }
     vertices.append(line.pixel(shown.to.point));
     add_lead(shown.to, &dense_line::next, vertices);
     QwtClipper::clipPolygonF(clip, vertices, false);
@@ -276,7 +292,7 @@ std::optional<dense_line::place> dense_line::next(const place& from) const
     }
     const qsizetype bar = from.bar + 1;
     if (bar < bars.size())
-        return place{bars[bar].first_vertex, bars[bar].first, bar};
+        return start_of(bar);
     if (bar > bars.size() || end == line.size())
         return std::nullopt;
     return place{bars.last().last_vertex + 1, end, bar};
@@ -292,6 +308,6 @@ std::optional<dense_line::place> dense_line::previous(const place& from) const
         return place{from.vertex - added, *point, from.bar};
     }
     if (from.bar > 0)
-        return place{bars[from.bar - 1].last_vertex, bars[from.bar - 1].last, from.bar - 1};
+        return end_of(from.bar - 1);
     return first > 0 ? std::optional(place{0, first - 1, -1}) : std::nullopt;
 }

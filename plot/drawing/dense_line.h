@@ -75,7 +75,9 @@ private:
 
     void draw_bars(QPainter& painter) const;
     void draw_steps(QPainter& painter) const;
-    QList<place> shown_steps() const;
+    QList<stretch> shown_steps() const;
+    place start_of(qsizetype bar) const;
+    place end_of(qsizetype bar) const;
     bool is_cut_off(qsizetype point, qsizetype next_point) const;
     bool hides_step(const bar& left, const bar& right, int reach) const;
     bool continues(const stretch& shown, const place& step) const;
