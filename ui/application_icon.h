@@ -2,8 +2,6 @@
 
 #include <QIcon>
 
-/// The icon of the application, which the commands give to what they open.
-inline QIcon application_icon()
-{
-    return QIcon(QStringLiteral(":/icons/look_and_feel/orvan.ico"));
-}
+/// The icon of the application, which the commands give to what they open. It is read once: to
+/// decode its pictures takes as long as to build a dialog.
+QIcon application_icon();
