@@ -1,9 +1,18 @@
 #include "plot/drawing/sampled_line.h"
 
 #include <algorithm>
+#include <cmath>
 #include <limits>
 
 namespace {
+
+// Whether no value is lower than the one before, infinite or NaN, with which no comparison is true.
+bool rises_orderly(std::span<const double> values)
+{
+    const auto fall =
+        std::ranges::adjacent_find(values, [](double a, double b) { return !(a <= b); });
+    return fall == values.end() && std::isfinite(values.front()) && std::isfinite(values.back());
+}
 
 bool is_same(const QwtScaleMap& a, const QwtScaleMap& b)
 {
@@ -16,8 +25,7 @@ sampled_line::sampled_line(std::span<const double> x, std::span<const double> y)
     : x(x)
     , y(y)
     , blocks(y)
-    , orderly(blocks.all_are_finite() && value_blocks(x).all_are_finite() &&
-              std::ranges::is_sorted(x))
+    , orderly(blocks.all_are_finite() && rises_orderly(x))
 {
 }
 

@@ -17,7 +17,7 @@
 class sampled_line
 {
 public:
-    /// Both must have the same length and outlive this.
+    /// Both must have the same length, one point at least, and outlive this.
     sampled_line(std::span<const double> x, std::span<const double> y);
 
     /// Whether x never falls and no coordinate is infinite or NaN. If not, only `size` may be
