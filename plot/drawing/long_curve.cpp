@@ -3,6 +3,7 @@
 #include "plot/drawing/dense_line.h"
 #include "plot/drawing/sampled_line.h"
 
+#include <QBrush>
 #include <QPaintEngine>
 #include <QPainter>
 #include <QtMath>
@@ -68,6 +69,14 @@ sampled_line* long_curve::orderly_line() const
     return line->is_orderly() ? line.get() : nullptr;
 }
 
+// Whether it is a mere line, with the paint attributes that a new curve has.
+bool long_curve::is_plain() const
+{
+    return brush().style() == Qt::NoBrush && !testCurveAttribute(Fitted) &&
+           testPaintAttribute(ClipPolygons) && testPaintAttribute(FilterPoints) &&
+           !testPaintAttribute(FilterPointsAggressive);
+}
+
 QRectF long_curve::boundingRect() const
 {
     const sampled_line* const samples = orderly_line();
@@ -83,7 +92,7 @@ void long_curve::drawLines(QPainter* painter, const QwtScaleMap& x_map, const Qw
 {
     sampled_line* const samples = orderly_line();
     const bool draws_all = samples && from == 0 && to == samples->size() - 1;
-    if (!draws_all || !draws_pieces(*painter) || x_map.isInverting()) {
+    if (!draws_all || !is_plain() || !draws_pieces(*painter) || x_map.isInverting()) {
         QwtPlotCurve::drawLines(painter, x_map, y_map, canvas, from, to);
         return;
     }

@@ -23,6 +23,7 @@ protected:
 
 private:
     sampled_line* orderly_line() const;
+    bool is_plain() const;
 
     mutable std::unique_ptr<sampled_line> line; // made from the data when it is first needed
 };

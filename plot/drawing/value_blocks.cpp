@@ -36,7 +36,6 @@ bool are_finite(std::span<const double> values)
 } // namespace
 
 value_blocks::value_blocks(std::span<const double> values)
-    : values(values)
 {
     constexpr std::size_t step = length;
     blocks.reserve(values.size() / step + 1);

@@ -18,7 +18,6 @@ public:
         double high;
     };
 
-    /// `values` must outlive this.
     explicit value_blocks(std::span<const double> values);
 
     /// Whether no value is infinite or NaN. If there is one, nothing else here may be asked.
@@ -31,7 +30,6 @@ public:
     extent all() const;
 
 private:
-    std::span<const double> values;
     std::vector<extent> blocks;
     bool finite = true;
 };

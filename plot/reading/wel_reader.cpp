@@ -11,7 +11,6 @@
 #include <QDebug>
 
 #include <algorithm>
-#include <optional>
 #include <vector>
 
 namespace {
