@@ -20,6 +20,20 @@ bool ends_a_piece(qsizetype vertex)
     return vertex % edges_of_a_piece == 0;
 }
 
+// Whether a piece ends at one of these vertices, both included.
+bool ends_a_piece(qsizetype first_vertex, qsizetype last_vertex)
+{
+    return last_vertex / edges_of_a_piece * edges_of_a_piece >= first_vertex;
+}
+
+// The pixels that a rectangle sets when Qt draws its area: those with their centres inside, on its
+// right or on its lower edge.
+QRect pixels_within(double left, double right, double top, double bottom)
+{
+    return {QPoint(qFloor(left + 0.5), qFloor(top + 0.5)),
+            QPoint(qFloor(right - 0.5), qFloor(bottom - 0.5))};
+}
+
 // The row where a line from a point on the left of the clip rectangle to one within its columns
 // enters them.
 double row_of_entry(const QPointF& outside, const QPointF& inside, const QRectF& clip)
@@ -30,13 +44,14 @@ double row_of_entry(const QPointF& outside, const QPointF& inside, const QRectF&
 
 } // namespace
 
-dense_line::dense_line(const sampled_line& line, const QRectF& clip, double pen_width,
-                       qsizetype first, qsizetype end)
+dense_line::dense_line(sampled_line& line, const QRectF& clip, double pen_width, qsizetype first,
+                       qsizetype end)
     : line(line)
     , clip(clip)
     , pen_width(pen_width)
     , first(first)
     , end(end)
+    , rows(line.rows_of(std::max<qsizetype>(first - 1, 0), std::min(end + 1, line.size())))
 {
     find_bars();
     find_caps();
@@ -56,7 +71,7 @@ void dense_line::find_bars()
         bars.append(bar_of(point, next, vertex));
         if (next < end) {
             vertex = bars.last().last_vertex +
-                     line.window().vertices_of_step(line.row(next - 1), line.row(next));
+                     line.window().vertices_of_step(rows.row(next - 1), rows.row(next));
         }
         point = next;
     }
@@ -67,20 +82,23 @@ qsizetype dense_line::vertex_of_first_point() const
 {
     const row_window& window = line.window();
     if (first == 0)
-        return window.has(line.row(first)) - 1;
+        return window.has(rows.row(first)) - 1;
     const double row = row_of_entry(line.pixel(first - 1), line.pixel(first), clip);
-    return window.has(row) + window.vertices_of_step(row, line.row(first)) - 1;
+    return window.has(row) + window.vertices_of_step(row, rows.row(first)) - 1;
 }
 
 dense_line::bar dense_line::bar_of(qsizetype first_point, qsizetype end_point,
                                    qsizetype first_vertex) const
 {
-    const auto [top, bottom] = line.rows_of(first_point, end_point);
-    const qsizetype last_point = end_point - 1;
-    const qsizetype last_vertex =
-        first_vertex + line.vertices_up_to(last_point) - line.vertices_up_to(first_point);
-    return {
-        line.column(first_point), first_point, last_point, first_vertex, last_vertex, top, bottom};
+    const auto [range, vertices] = rows.sum_up(first_point, end_point);
+    const qsizetype last_vertex = first_vertex + vertices - rows.vertices_at(first_point);
+    return {line.column(first_point),
+            first_point,
+            end_point - 1,
+            first_vertex,
+            last_vertex,
+            range.top,
+            range.bottom};
 }
 
 void dense_line::find_caps()
@@ -112,51 +130,45 @@ row_range dense_line::rows_beside(qsizetype index) const
 // Whether a piece ends in the row, which is the top or the bottom one.
 bool dense_line::has_cap_in(const bar& each, int row) const
 {
-    const qsizetype last_end = each.last_vertex / edges_of_a_piece * edges_of_a_piece;
-    if (last_end < each.first_vertex || !line.window().has(row))
+    if (!ends_a_piece(each.first_vertex, each.last_vertex) || !line.window().has(row))
         return false;
-    const qsizetype offset = each.first_vertex - line.vertices_up_to(each.first);
+    qsizetype vertex = each.first_vertex - rows.vertices_at(each.first);
     for (qsizetype point = each.first; point <= each.last;) {
-        const qsizetype block = point / value_blocks::length;
-        const qsizetype next = std::min((block + 1) * value_blocks::length, each.last + 1);
-        if (line.rows_of_block(block).has(row) &&
-            has_cap_among(point, next, offset + line.vertices_up_to(point), row))
+        const qsizetype next = std::min(pixel_rows::end_of_block(point), each.last + 1);
+        const auto [range, vertices] = rows.sum_up_in_block(point, next);
+        if (range.has(row) && ends_a_piece(vertex, vertex + vertices) &&
+            has_cap_among(point, next, vertex, row))
             return true;
+        vertex += vertices;
         point = next;
     }
     return false;
 }
 
-// The same for some points of one block.
-bool dense_line::has_cap_among(qsizetype first_point, qsizetype end_point, qsizetype first_vertex,
+// The same for some points, of which `vertex` is the one before the first.
+bool dense_line::has_cap_among(qsizetype first_point, qsizetype end_point, qsizetype vertex,
                                int row) const
 {
-    if (line.rows_of_block(first_point / value_blocks::length).is_one(row))
-        return ends_a_piece(first_vertex);
-    qsizetype vertex = first_vertex;
-    int last_row = line.row(first_point);
     for (qsizetype point = first_point; point < end_point; ++point) {
-        const int next_row = line.row(point);
-        vertex += line.window().vertices_of_change(last_row, next_row);
-        last_row = next_row;
-        if (next_row == row && ends_a_piece(vertex))
+        vertex += rows.vertices_at(point);
+        if (ends_a_piece(vertex) && rows.row(point) == row)
             return true;
     }
     return false;
 }
 
-// As rectangles, since these are filled in a fraction of the time that lines take.
+// As whole pixels, since these are filled in a fraction of the time that lines take.
 void dense_line::draw_bars(QPainter& painter) const
 {
     const QPen pen = painter.pen();
     const double cap = pen_width / 2.0;
-    QList<QRectF> rectangles;
+    QList<QRect> rectangles;
     for (const bar& each : bars) {
         const double from = std::max<double>(each.top, clip.top()) - (each.cap_above ? cap : 0.0);
         const double to =
             std::min<double>(each.bottom, clip.bottom()) + (each.cap_below ? cap : 0.0);
         if (from < to)
-            rectangles.append(QRectF(each.column - cap, from, 2.0 * cap, to - from));
+            rectangles.append(pixels_within(each.column - cap, each.column + cap, from, to));
     }
     const QBrush brush = painter.brush();
     painter.setPen(Qt::NoPen);
@@ -217,7 +229,7 @@ dense_line::place dense_line::end_of(qsizetype bar) const
 // Whether both points lie beyond the same edge.
 bool dense_line::is_cut_off(qsizetype point, qsizetype next_point) const
 {
-    const auto [upper, lower] = std::minmax({line.row(point), line.row(next_point)});
+    const auto [upper, lower] = std::minmax({rows.row(point), rows.row(next_point)});
     return lower < clip.top() || upper > clip.bottom();
 }
 
@@ -227,7 +239,7 @@ bool dense_line::hides_step(const bar& left, const bar& right, int reach) const
 {
     if (right.column != left.column + 1)
         return false;
-    const auto [upper, lower] = std::minmax({line.row(left.last), line.row(right.first)});
+    const auto [upper, lower] = std::minmax({rows.row(left.last), rows.row(right.first)});
     return upper - reach >= std::max(left.top - left.cap_above, right.top - right.cap_above) &&
            lower + reach <= std::min(left.bottom + left.cap_below, right.bottom + right.cap_below);
 }
@@ -239,9 +251,9 @@ bool dense_line::continues(const stretch& shown, const place& step) const
     if (shown.from.vertex / edges_of_a_piece != step.vertex / edges_of_a_piece)
         return false;
     std::optional<place> each = shown.to;
-    while (each && each->vertex < step.vertex && line.window().has(line.row(each->point)))
+    while (each && each->vertex < step.vertex && line.window().has(rows.row(each->point)))
         each = next(*each);
-    return each && each->bar == step.bar && line.window().has(line.row(each->point));
+    return each && each->bar == step.bar && line.window().has(rows.row(each->point));
 }
 
 void dense_line::draw_stretch(const stretch& shown, QPainter& painter) const
@@ -265,7 +277,7 @@ void dense_line::draw_stretch(const stretch& shown, QPainter& painter) const
 void dense_line::add_lead(place from, neighbour step, QPolygonF& vertices) const
 {
     const int stub = qCeil(pen_width);
-    while (line.window().has(line.row(from.point)) && !ends_a_piece(from.vertex)) {
+    while (line.window().has(rows.row(from.point)) && !ends_a_piece(from.vertex)) {
         const std::optional<place> other = (this->*step)(from);
         if (!other)
             return;
@@ -285,8 +297,8 @@ std::optional<dense_line::place> dense_line::next(const place& from) const
 {
     const row_window& window = line.window();
     if (from.bar >= 0 && from.bar < bars.size()) {
-        if (const auto point = line.next_row(from.point, bars[from.bar].last)) {
-            const int added = window.vertices_of_change(line.row(from.point), line.row(*point));
+        if (const auto point = rows.next_row(from.point, bars[from.bar].last)) {
+            const int added = window.vertices_of_change(rows.row(from.point), rows.row(*point));
             return place{from.vertex + added, *point, from.bar};
         }
     }
@@ -303,8 +315,8 @@ std::optional<dense_line::place> dense_line::previous(const place& from) const
     const row_window& window = line.window();
     if (from.bar < 0)
         return std::nullopt;
-    if (const auto point = line.previous_row(from.point, bars[from.bar].first)) {
-        const int added = window.vertices_of_change(line.row(*point), line.row(from.point));
+    if (const auto point = rows.previous_row(from.point, bars[from.bar].first)) {
+        const int added = window.vertices_of_change(rows.row(*point), rows.row(from.point));
         return place{from.vertex - added, *point, from.bar};
     }
     if (from.bar > 0)

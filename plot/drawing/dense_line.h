@@ -24,7 +24,7 @@ public:
     /// `clip` is the rectangle at which Qwt cuts the line off. The points from `first` to the one
     /// before `end` are those within its columns; there is at least one. The pen is wider than one
     /// pixel.
-    dense_line(const sampled_line& line, const QRectF& clip, double pen_width, qsizetype first,
+    dense_line(sampled_line& line, const QRectF& clip, double pen_width, qsizetype first,
                qsizetype end);
 
     /// Draws with the pen of `painter`, which must be solid.
@@ -70,8 +70,7 @@ private:
     void find_caps();
     row_range rows_beside(qsizetype index) const;
     bool has_cap_in(const bar& each, int row) const;
-    bool has_cap_among(qsizetype first_point, qsizetype end_point, qsizetype first_vertex,
-                       int row) const;
+    bool has_cap_among(qsizetype first_point, qsizetype end_point, qsizetype vertex, int row) const;
 
     void draw_bars(QPainter& painter) const;
     void draw_steps(QPainter& painter) const;
@@ -91,5 +90,6 @@ private:
     double pen_width;
     qsizetype first;
     qsizetype end;
+    const pixel_rows& rows; // of these points and the nearest ones outside
     QList<bar> bars;
 };

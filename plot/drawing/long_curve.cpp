@@ -43,6 +43,13 @@ bool draws_pieces(QPainter& painter)
            painter.pen().style() == Qt::SolidLine && painter.pen().color().alpha() == 255;
 }
 
+// Whether rows within the rectangle are kept.
+bool is_near(const QRectF& clip)
+{
+    constexpr double farthest = pixel_rows::farthest_window;
+    return clip.top() > -farthest && clip.bottom() < farthest;
+}
+
 } // namespace
 
 long_curve::long_curve() = default;
@@ -82,7 +89,7 @@ QRectF long_curve::boundingRect() const
     const sampled_line* const samples = orderly_line();
     if (!samples)
         return QwtPlotCurve::boundingRect();
-    const auto [low, high] = samples->extent();
+    const auto [low, high] = samples->range();
     const double left = samples->x_of(0);
     return {left, low, samples->x_of(samples->size() - 1) - left, high - low};
 }
@@ -92,11 +99,12 @@ void long_curve::drawLines(QPainter* painter, const QwtScaleMap& x_map, const Qw
 {
     sampled_line* const samples = orderly_line();
     const bool draws_all = samples && from == 0 && to == samples->size() - 1;
-    if (!draws_all || !is_plain() || !draws_pieces(*painter) || x_map.isInverting()) {
+    const QRectF clip = clip_rectangle(*painter, canvas);
+    if (!draws_all || !is_plain() || !draws_pieces(*painter) || x_map.isInverting() ||
+        !is_near(clip)) {
         QwtPlotCurve::drawLines(painter, x_map, y_map, canvas, from, to);
         return;
     }
-    const QRectF clip = clip_rectangle(*painter, canvas);
     samples->set_x_scale(x_map);
     const qsizetype first = samples->first_from_column(qCeil(clip.left()), 0, samples->size());
     const qsizetype end =

@@ -1,22 +1,55 @@
 #include "plot/drawing/sampled_line.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <limits>
 
 namespace {
 
+using extent = sampled_line::extent;
+
 // Whether no value is lower than the one before, infinite or NaN, with which no comparison is true.
+// Looks at some values at once, since that is quicker than to stop at the first.
 bool rises_orderly(std::span<const double> values)
 {
-    const auto fall =
-        std::ranges::adjacent_find(values, [](double a, double b) { return !(a <= b); });
-    return fall == values.end() && std::isfinite(values.front()) && std::isfinite(values.back());
+    constexpr std::size_t at_once = 1024;
+    for (std::size_t i = 1; i < values.size(); i += at_once) {
+        const std::size_t end = std::min(i + at_once, values.size());
+        bool rises = true;
+        for (std::size_t k = i; k < end; ++k)
+            rises &= values[k - 1] <= values[k];
+        if (!rises)
+            return false;
+    }
+    return std::isfinite(values.front()) && std::isfinite(values.back());
 }
 
-bool is_same(const QwtScaleMap& a, const QwtScaleMap& b)
+// The range of the values; nothing if one is infinite or NaN. Every eighth value belongs together,
+// so that none waits for the one before.
+std::optional<extent> range_of(std::span<const double> values)
 {
-    return a.p1() == b.p1() && a.p2() == b.p2() && a.s1() == b.s1() && a.s2() == b.s2();
+    constexpr std::size_t lanes = 8;
+    std::array<double, lanes> low;
+    std::array<double, lanes> high;
+    std::array<double, lanes> difference{}; // 0, but NaN once a value is infinite or NaN
+    low.fill(values.front());
+    high.fill(values.front());
+    const auto look_at = [&](std::size_t lane, double value) {
+        low[lane] = value < low[lane] ? value : low[lane];
+        high[lane] = value > high[lane] ? value : high[lane];
+        difference[lane] += value - value;
+    };
+    std::size_t i = 0;
+    for (; i + lanes <= values.size(); i += lanes) {
+        for (std::size_t lane = 0; lane < lanes; ++lane)
+            look_at(lane, values[i + lane]);
+    }
+    for (; i < values.size(); ++i)
+        look_at(0, values[i]);
+    if (std::ranges::any_of(difference, [](double each) { return std::isnan(each); }))
+        return std::nullopt;
+    return extent{std::ranges::min(low), std::ranges::max(high)};
 }
 
 } // namespace
@@ -24,56 +57,21 @@ bool is_same(const QwtScaleMap& a, const QwtScaleMap& b)
 sampled_line::sampled_line(std::span<const double> x, std::span<const double> y)
     : x(x)
     , y(y)
-    , blocks(y)
-    , orderly(blocks.all_are_finite() && rises_orderly(x))
+    , y_extent(rises_orderly(x) ? range_of(y) : std::nullopt)
+    , rows(y)
 {
 }
 
-// An edge that the line does not reach is moved to the line, so that panning does not change it.
-void sampled_line::set_y_scale(const QwtScaleMap& scale, row_window window)
+void sampled_line::set_y_scale(const QwtScaleMap& scale, const row_window& window)
 {
-    if (counted && is_same(scale, y_map) && window == asked)
-        return;
     y_map = scale;
-    asked = window;
-    block_rows.clear();
-    for (qsizetype i = 0; i < blocks.count(); ++i)
-        block_rows.push_back(rows_of(blocks.block(i)));
-    const row_range all = rows_of(extent());
-    kept = {std::max(window.top, all.top), std::min(window.bottom, all.bottom)};
-    if (!counted || !counted->holds_for(y_map, kept))
-        counted = std::make_unique<vertex_count>(y, y_map, kept);
+    kept = window;
+    rows.set_scale(scale, window);
 }
 
-row_range sampled_line::rows_of(const value_blocks::extent& values) const
+const pixel_rows& sampled_line::rows_of(qsizetype first, qsizetype end)
 {
-    const auto [top, bottom] =
-        std::minmax({pixel_of(y_map, values.low), pixel_of(y_map, values.high)});
-    return {top, bottom};
-}
-
-row_range sampled_line::rows_of_points(qsizetype first, qsizetype end) const
-{
-    row_range rows{std::numeric_limits<int>::max(), std::numeric_limits<int>::min()};
-    for (qsizetype i = first; i < end; ++i)
-        rows = {std::min(rows.top, row(i)), std::max(rows.bottom, row(i))};
-    return rows;
-}
-
-row_range sampled_line::rows_of(qsizetype first, qsizetype end) const
-{
-    constexpr qsizetype length = value_blocks::length;
-    const qsizetype first_block = (first + length - 1) / length;
-    const qsizetype end_block = end / length;
-    if (first_block >= end_block)
-        return rows_of_points(first, end);
-    row_range rows = rows_of_points(first, first_block * length);
-    const auto add = [&rows](const row_range& more) {
-        rows = {std::min(rows.top, more.top), std::max(rows.bottom, more.bottom)};
-    };
-    for (qsizetype i = first_block; i < end_block; ++i)
-        add(rows_of_block(i));
-    add(rows_of_points(end_block * length, end));
+    rows.find(first, end);
     return rows;
 }
 
@@ -91,35 +89,4 @@ qsizetype sampled_line::first_from_column(int column, qsizetype first, qsizetype
     return std::partition_point(from, to,
                                 [&](double value) { return pixel_of(x_map, value) < column; }) -
            x.begin();
-}
-
-std::optional<qsizetype> sampled_line::next_row(qsizetype index, qsizetype last) const
-{
-    const int here = row(index);
-    qsizetype i = index + 1;
-    while (i <= last) {
-        if (i % value_blocks::length == 0 && rows_of_block(i / value_blocks::length).is_one(here))
-            i += value_blocks::length;
-        else if (row(i) == here)
-            ++i;
-        else
-            return i;
-    }
-    return std::nullopt;
-}
-
-std::optional<qsizetype> sampled_line::previous_row(qsizetype index, qsizetype first) const
-{
-    const int here = row(index);
-    qsizetype i = index;
-    while (i > first) {
-        if (i % value_blocks::length == 0 &&
-            rows_of_block(i / value_blocks::length - 1).is_one(here))
-            i -= value_blocks::length;
-        else if (row(i - 1) == here)
-            --i;
-        else
-            return i - 1;
-    }
-    return std::nullopt;
 }

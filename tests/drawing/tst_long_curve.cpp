@@ -212,11 +212,13 @@ private slots:
     void irregular_data();
     void irregular();
     void random_views();
+    void moved_by_rows();
     void pens();
     void new_samples();
     void bounding_rectangle_data();
     void bounding_rectangle();
     void rendered_picture();
+    void very_tall_picture();
 };
 
 void tst_long_curve::shapes_and_ranges_data()
@@ -316,6 +318,42 @@ void tst_long_curve::random_views()
     }
 }
 
+// As a user pans: the value axis moves by whole pixels, sometimes farther than what is kept
+// reaches, while different parts of the time are in sight.
+void tst_long_curve::moved_by_rows()
+{
+    struct move
+    {
+        int rows;
+        double from; // the share of the time that is in sight
+        double to;
+    };
+    constexpr move moves[] = {{0, 0.2, 0.4},    {-40, 0.0, 1.0},    {1, 0.0, 1.0},
+                              {-300, 0.1, 0.9}, {200, 0.1, 0.5},    {9'000, 0.3, 1.0},
+                              {100, 0.0, 1.0},  {15'000, 0.0, 0.7}, {-15'000, 0.0, 1.0},
+                              {0, 0.0, 1.0}};
+    for (const auto& [name, shape] : shapes()) {
+        // Steep enough for some to be far away, even when the axis moves far.
+        const series shown = made_of(shape, 40000);
+        const range all = range_of(shown.y);
+        for (const range& y : {part_of(all, 0.1, 0.9), part_of(all, 0.49, 0.52)}) {
+            long_curve curve;
+            curve.setSamples(shown.x, shown.y);
+            curve.setPen(Qt::blue, 2.0, Qt::SolidLine);
+            for (const move& each : moves) {
+                const double shift = each.rows * (y.to - y.from) / (canvas.height() - 1);
+                const view seen{part_of(range_of(shown.x), each.from, each.to),
+                                {y.from + shift, y.to + shift}};
+                const QImage expected = picture_of<QwtPlotCurve>(shown, seen);
+                const QImage actual = picture_of(curve, seen);
+                const QString what = QString("%1, moved by %2").arg(name).arg(each.rows);
+                QVERIFY2(different_pixels(expected, actual) <= allowed, qPrintable(what));
+                QVERIFY2(same_extremes(expected, actual), qPrintable(what));
+            }
+        }
+    }
+}
+
 void tst_long_curve::pens()
 {
     const series shown = made_of(noise(6, 3), 20000);
@@ -382,6 +420,27 @@ void tst_long_curve::rendered_picture()
     }
     QVERIFY(different_pixels(images[0], images[1]) <= allowed);
     QVERIFY(different_pixels(images[0], QImage(canvas, QImage::Format_RGB32)) > 0);
+}
+
+// Taller than the rows reach that are kept.
+void tst_long_curve::very_tall_picture()
+{
+    const series shown = made_of(walk(9), 20000);
+    QImage images[2];
+    for (const bool as_qwt : {true, false}) {
+        QwtPlotCurve curve;
+        long_curve other;
+        QwtPlotCurve& drawn = as_qwt ? curve : other;
+        drawn.setSamples(shown.x, shown.y);
+        drawn.setPen(Qt::blue, 2.0, Qt::SolidLine);
+        QImage& image = images[as_qwt ? 0 : 1];
+        image = QImage(60, 32'000, QImage::Format_RGB32);
+        image.fill(Qt::white);
+        QPainter painter(&image);
+        drawn.draw(&painter, scale(range_of(shown.x), 0.0, 59.0),
+                   scale(range_of(shown.y), 31'999.0, 0.0), QRectF(image.rect()));
+    }
+    QCOMPARE(images[1], images[0]);
 }
 
 QTEST_MAIN(tst_long_curve)

@@ -1,0 +1,109 @@
+#pragma once
+
+#include "plot/drawing/row_window.h"
+
+#include <QList>
+
+#include <qwt_scale_map.h>
+
+#include <algorithm>
+#include <limits>
+#include <optional>
+#include <span>
+
+/// The pixel row of each value of a series, as a plot draws it with the present scale of its value
+/// axis, and what the rows of a long stretch have in common.
+///
+/// A row is found when it is first needed, and then kept as a small number: a zoom or a pan of the
+/// time axis reads these, no values. Rows of the same 64 values, a block, are summed up. A row far
+/// above or below the window stands for all that are still farther away.
+class pixel_rows
+{
+public:
+    static constexpr qsizetype block_length = 64;  ///< the last one may be shorter
+    static constexpr int farthest_row = 30'000;    ///< that is kept; see above
+    static constexpr int farthest_window = 10'000; ///< from 0
+
+    /// What some points have in common.
+    struct summary
+    {
+        row_range rows;
+        qsizetype vertices; ///< that the line gets at these points, each seen from the one before
+    };
+
+    /// `values` must be finite and outlive this.
+    explicit pixel_rows(std::span<const double> values);
+
+    /// Sets the scale and the rows between which the line is kept, none of them farther away than
+    /// `farthest_window`. Rows that have been found remain if they only move, all by the same whole
+    /// number.
+    void set_scale(const QwtScaleMap& scale, const row_window& window);
+
+    /// Finds the rows of the points from `first` to the one before `end`. All that follows may be
+    /// asked of such points only.
+    void find(qsizetype first, qsizetype end);
+
+    int row(qsizetype index) const { return kept_row(index) + shift; }
+
+    /// How many vertices the line gets at a point, if the one before is in the same pixel column:
+    /// consecutive points of one row make one vertex, and so does each crossing of an edge.
+    int vertices_at(qsizetype index) const
+    {
+        return kept.vertices_of_change(kept_row(index - 1), kept_row(index));
+    }
+
+    /// There must be at least one point.
+    summary sum_up(qsizetype first, qsizetype end) const;
+
+    /// The same for points of one block, at once if these are all of it.
+    summary sum_up_in_block(qsizetype first, qsizetype end) const
+    {
+        const qsizetype index = first / block_length;
+        if (first != index * block_length || end != end_within(index))
+            return sum_up_points(first, end);
+        const block& all = blocks[index];
+        return {{all.top + shift, all.bottom + shift}, all.vertices};
+    }
+
+    /// The first point of the next block.
+    static qsizetype end_of_block(qsizetype index)
+    {
+        return (index / block_length + 1) * block_length;
+    }
+
+    /// The nearest point behind `index`, `last` at most, that has another row.
+    std::optional<qsizetype> next_row(qsizetype index, qsizetype last) const;
+    /// The nearest point before `index`, `first` at least, that has another row.
+    std::optional<qsizetype> previous_row(qsizetype index, qsizetype first) const;
+
+private:
+    // What is known of a block. No point makes more than three vertices.
+    struct block
+    {
+        qint16 top;
+        qint16 bottom;
+        quint8 vertices;
+        bool is_found = false;
+        bool is_near_half; // whether the rows may not move without being found anew
+    };
+    static_assert(3 * block_length <= std::numeric_limits<quint8>::max());
+
+    qsizetype size() const { return static_cast<qsizetype>(values.size()); }
+    int kept_row(qsizetype index) const { return rows[index + 1]; }
+    qsizetype end_within(qsizetype block) const
+    {
+        return std::min((block + 1) * block_length, size());
+    }
+    void find_block(qsizetype index);
+    void add_up_block(qsizetype index);
+    summary sum_up_points(qsizetype first, qsizetype end) const;
+    bool is_level(qsizetype block, int row) const;
+
+    std::span<const double> values;
+    QwtScaleMap first_scale; // to which the rows that are kept belong
+    QwtScaleMap present_scale;
+    int shift = 0;         // from the rows that are kept to the present ones
+    row_window kept{0, 0}; // in the same terms as these rows
+    QList<qint16> rows;    // one more in front, so that the first has one before it
+    QList<block> blocks;
+};
