@@ -1,5 +1,6 @@
 // How long a step of zooming and panning takes with a gauge's file of thirty years, and the first
-// picture of it.
+// picture of it. A step is compared with the same step of a plot that shows the same picture, but
+// has 1,000 rows: the file's highest and lowest values in each of 500 parts of what is in sight.
 
 #include "bench/measure.h"
 #include "bench/wel_files.h"
@@ -11,7 +12,9 @@
 
 #include <qwt_plot.h>
 #include <qwt_plot_curve.h>
+#include <qwt_point_data.h>
 
+#include <algorithm>
 #include <cmath>
 
 namespace {
@@ -28,6 +31,22 @@ struct times
     double pan;
 };
 
+struct time_range
+{
+    double from;
+    double to;
+
+    double length() const { return to - from; }
+    time_range moved(double by) const { return {from + by, to + by}; }
+    time_range widened(double by) const { return {from - by, to + by}; }
+};
+
+struct samples
+{
+    QList<double> x;
+    QList<double> y;
+};
+
 // A main window that shows one file.
 struct shown_file
 {
@@ -42,35 +61,36 @@ struct shown_file
         end = driver.lower->axisInterval(QwtAxis::XBottom).maxValue();
     }
 
-    void show(double from, double to)
+    void show(const time_range& shown)
     {
-        driver.lower->setAxisScale(QwtAxis::XBottom, from, to);
+        driver.lower->setAxisScale(QwtAxis::XBottom, shown.from, shown.to);
         driver.lower->replot();
         QCoreApplication::processEvents(); // painted
     }
 
-    // The share of the file that a level shows: from all of it to twenty points, by equal factors.
-    double share(int level) const
+    // From the whole file to twenty points in its middle, by equal factors.
+    time_range level(int index) const
     {
         const double last = points_of_last_level / static_cast<double>(rows);
-        return std::pow(last, static_cast<double>(level) / (levels - 1));
+        const double share = std::pow(last, static_cast<double>(index) / (levels - 1));
+        return {end / 2.0 * (1.0 - share), end / 2.0 * (1.0 + share)};
     }
 
-    // A step back and forth at each level, about the middle of the file.
-    times step(int level)
+    // A step there and back.
+    double step(const time_range& here, const time_range& there)
     {
-        const double half = share(level) * end / 2.0;
-        const double middle = end / 2.0;
-        const auto both_ways = [&](double shift, double factor) {
-            return bench::shortest(runs,
-                                   [&] {
-                                       show(middle + shift - half * factor,
-                                            middle + shift + half * factor);
-                                       show(middle - half, middle + half);
-                                   }) /
-                   2.0;
-        };
-        return {both_ways(0.0, 0.9), both_ways(half / 10.0, 1.0)};
+        return bench::shortest(runs,
+                               [&] {
+                                   show(there);
+                                   show(here);
+                               }) /
+               2.0;
+    }
+
+    times steps(const time_range& here)
+    {
+        const double part = here.length() / 20.0;
+        return {step(here, here.widened(-part)), step(here, here.moved(part))};
     }
 
     window_driver driver;
@@ -79,15 +99,59 @@ struct shown_file
     double end = 0.0;
 };
 
+// The samples of a curve in a range of time: all, or if these are many, the highest and the lowest
+// of each of so many parts that there are `few_rows`.
+samples thinned(const QwtPlotCurve& curve, const time_range& range)
+{
+    const auto& all = dynamic_cast<const QwtPointArrayData<double>&>(*curve.data());
+    const QList<double> x = all.xData();
+    const QList<double> y = all.yData();
+    const auto first = std::ranges::lower_bound(x, range.from) - x.begin();
+    const auto end = std::ranges::upper_bound(x, range.to) - x.begin();
+    if (end - first <= few_rows)
+        return {x.mid(first, end - first), y.mid(first, end - first)};
+    samples few;
+    for (qsizetype part = 0; part < few_rows / 2; ++part) {
+        const auto at = [&](qsizetype index) {
+            return first + (end - first) * index / (few_rows / 2);
+        };
+        const auto [low, high] =
+            std::minmax_element(y.begin() + at(part), y.begin() + at(part + 1));
+        for (const auto value : {std::min(low, high), std::max(low, high)}) {
+            few.x.append(x[value - y.begin()]);
+            few.y.append(*value);
+        }
+    }
+    return few;
+}
+
+// Lets a plot show what another shows of a range, from few samples.
+void imitate(QwtPlot& few, const QwtPlot& many, const time_range& range)
+{
+    const QwtPlotItemList copies = few.itemList(QwtPlotItem::Rtti_PlotCurve);
+    const QwtPlotItemList originals = many.itemList(QwtPlotItem::Rtti_PlotCurve);
+    for (qsizetype i = 0; i < originals.size(); ++i) {
+        const auto [x, y] = thinned(dynamic_cast<const QwtPlotCurve&>(*originals[i]), range);
+        dynamic_cast<QwtPlotCurve&>(*copies[i]).setSamples(x, y);
+    }
+    const QwtInterval values = many.axisInterval(QwtAxis::YLeft);
+    few.setAxisScale(QwtAxis::YLeft, values.minValue(), values.maxValue());
+}
+
 std::vector<bench::figure> steps(shown_file& few, shown_file& many)
 {
     std::vector<bench::figure> figures;
     for (int level = 0; level < levels; ++level) {
-        const times base = few.step(level);
-        const times actual = many.step(level);
-        const auto points = std::llround(many.share(level) * static_cast<double>(many_rows));
+        const time_range shown = many.level(level);
+        const time_range reached = shown.widened(shown.length() / 10.0);
+        imitate(*few.driver.lower, *many.driver.lower, reached);
+        imitate(*few.driver.upper, *many.driver.upper, reached);
+        const times base = few.steps(shown);
+        const times actual = many.steps(shown);
+        const auto points =
+            std::llround(shown.length() / many.end * static_cast<double>(many_rows));
         const std::string what = " with " + std::to_string(points) + " of 3,200,000 rows";
-        const std::string against = "the same of 1,000 rows";
+        const std::string against = "the same picture of 1,000 rows";
         figures.push_back({"zoom step" + what, actual.zoom, against, base.zoom, 2.0, "2 drawing"});
         figures.push_back({"pan step" + what, actual.pan, against, base.pan, 2.0, "2 drawing"});
     }

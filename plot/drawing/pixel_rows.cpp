@@ -30,6 +30,28 @@ qint16 kept_as(int row)
     return static_cast<qint16>(row < -farthest ? -farthest : row > farthest ? farthest : row);
 }
 
+// The next two work on small numbers only, so that the compiler takes several at once.
+
+std::pair<qint16, qint16> range_of(std::span<const qint16> rows)
+{
+    qint16 top = rows.front();
+    qint16 bottom = rows.front();
+    for (const qint16 row : rows) {
+        top = std::min(top, row);
+        bottom = std::max(bottom, row);
+    }
+    return {top, bottom};
+}
+
+// The vertices at all points but the first.
+int vertices_between(std::span<const qint16> rows, const row_window& window)
+{
+    int vertices = 0;
+    for (std::size_t i = 1; i < rows.size(); ++i)
+        vertices += window.vertices_of_change(rows[i - 1], rows[i]);
+    return vertices;
+}
+
 bool is_same(const QwtScaleMap& a, const QwtScaleMap& b)
 {
     return a.p1() == b.p1() && a.p2() == b.p2() && a.s1() == b.s1() && a.s2() == b.s2();
@@ -52,10 +74,10 @@ using summary = pixel_rows::summary;
 
 } // namespace
 
-pixel_rows::pixel_rows(std::span<const double> values)
+pixel_rows::pixel_rows(std::span<const double> values, const value_blocks& ranges)
     : values(values)
-    , rows(size() + 1)
-    , blocks((size() + block_length - 1) / block_length)
+    , ranges(ranges)
+    , blocks(ranges.count())
 {
 }
 
@@ -65,10 +87,14 @@ void pixel_rows::set_scale(const QwtScaleMap& scale, const row_window& window)
         window == row_window{kept.top + shift, kept.bottom + shift})
         return;
     const std::optional<int> moved = moved_by(first_scale, scale);
-    if (!moved)
+    if (moved) {
+        for (block& each : blocks)
+            each.is_found = each.is_found && !each.is_near_half;
+    } else {
         first_scale = scale;
-    for (block& each : blocks)
-        each.is_found = each.is_found && moved && !each.is_near_half;
+        blocks.fill({});
+        rows.clear();
+    }
     present_scale = scale;
     shift = moved.value_or(0);
     const row_window now{window.top - shift, window.bottom - shift};
@@ -77,7 +103,7 @@ void pixel_rows::set_scale(const QwtScaleMap& scale, const row_window& window)
     kept = now;
     for (qsizetype i = 0; i < blocks.size(); ++i) {
         if (blocks[i].is_found)
-            add_up_block(i);
+            count_vertices(i);
     }
 }
 
@@ -92,46 +118,70 @@ void pixel_rows::find(qsizetype first, qsizetype end)
 // With the row of the point before, whose block may not be found.
 void pixel_rows::find_block(qsizetype index)
 {
+    const qsizetype first = index * block_length;
+    const auto [low, high] = ranges.block(index);
+    const rounded_row one = row_of(present_scale, low);
+    const rounded_row other = row_of(present_scale, high);
+    const rounded_row before =
+        row_of(present_scale, values[static_cast<std::size_t>(std::max<qsizetype>(first - 1, 0))]);
+    block& found = blocks[index];
+    found.is_found = true;
+    found.before = kept_as(before.row - shift);
+    found.is_near_half = before.is_near_half || one.is_near_half || other.is_near_half;
+    if (one.row == other.row && !found.is_near_half)
+        found.top = found.bottom = kept_as(one.row - shift);
+    else
+        find_rows(index);
+    count_vertices(index);
+}
+
+void pixel_rows::find_rows(qsizetype index)
+{
+    block& found = blocks[index];
+    if (found.place < 0) {
+        found.place = static_cast<int>(rows.size());
+        rows.resize(rows.size() + block_length);
+    }
     const QwtScaleMap scale = present_scale; // so that the loop need not look whether it changes
     const int start = shift;
-    const double* const value = values.data();
-    qint16* const row = rows.data() + 1;
     const qsizetype first = index * block_length;
-    const rounded_row before = row_of(scale, value[std::max<qsizetype>(first - 1, 0)]);
-    bool is_near_half = before.is_near_half;
-    row[first - 1] = kept_as(before.row - start);
-    for (qsizetype i = first; i < end_within(index); ++i) {
+    const qsizetype count = end_within(index) - first;
+    const double* const value = values.data() + first;
+    qint16* const row = rows.data() + found.place;
+    bool is_near_half = false;
+    for (qsizetype i = 0; i < count; ++i) {
         const rounded_row each = row_of(scale, value[i]);
         row[i] = kept_as(each.row - start);
         is_near_half |= each.is_near_half;
     }
-    blocks[index].is_found = true;
-    blocks[index].is_near_half = is_near_half;
-    add_up_block(index);
+    found.is_near_half |= is_near_half;
+    const auto [top, bottom] = range_of({row, row + count});
+    found.top = top;
+    found.bottom = bottom;
 }
 
-void pixel_rows::add_up_block(qsizetype index)
+void pixel_rows::count_vertices(qsizetype index)
 {
-    const auto [range, vertices] = sum_up_points(index * block_length, end_within(index));
-    block& sum = blocks[index];
-    sum.top = static_cast<qint16>(range.top - shift);
-    sum.bottom = static_cast<qint16>(range.bottom - shift);
-    sum.vertices = static_cast<quint8>(vertices);
-}
-
-summary pixel_rows::sum_up_points(qsizetype first, qsizetype end) const
-{
-    const qint16* const row = rows.constData() + 1;
-    const row_window window = kept;
-    int top = row[first];
-    int bottom = row[first];
-    int vertices = 0;
-    for (qsizetype i = first; i < end; ++i) {
-        top = std::min<int>(top, row[i]);
-        bottom = std::max<int>(bottom, row[i]);
-        vertices += window.vertices_of_change(row[i - 1], row[i]);
+    block& each = blocks[index];
+    int vertices = vertices_at(index * block_length);
+    if (!each.is_level()) {
+        const qsizetype count = end_within(index) - index * block_length;
+        vertices += vertices_between({rows_of(each), static_cast<std::size_t>(count)}, kept);
     }
-    return {{top + shift, bottom + shift}, vertices};
+    each.vertices = static_cast<quint8>(vertices);
+}
+
+summary pixel_rows::sum_up_in_block(qsizetype first, qsizetype end) const
+{
+    const qsizetype index = first / block_length;
+    const block& all = blocks[index];
+    const bool from_start = first == index * block_length;
+    if (all.is_level() || (from_start && end == end_within(index)))
+        return {{all.top + shift, all.bottom + shift}, from_start ? all.vertices : 0};
+    const std::span<const qint16> some(rows_of(all) + first % block_length,
+                                       static_cast<std::size_t>(end - first));
+    const auto [top, bottom] = range_of(some);
+    return {{top + shift, bottom + shift}, vertices_at(first) + vertices_between(some, kept)};
 }
 
 summary pixel_rows::sum_up(qsizetype first, qsizetype end) const
@@ -145,7 +195,7 @@ summary pixel_rows::sum_up(qsizetype first, qsizetype end) const
     return sum;
 }
 
-bool pixel_rows::is_level(qsizetype block, int row) const
+bool pixel_rows::is_level_at(qsizetype block, int row) const
 {
     return blocks[block].top == row && blocks[block].bottom == row;
 }
@@ -155,7 +205,7 @@ std::optional<qsizetype> pixel_rows::next_row(qsizetype index, qsizetype last) c
     const int here = kept_row(index);
     qsizetype i = index + 1;
     while (i <= last) {
-        if (i % block_length == 0 && is_level(i / block_length, here))
+        if (i % block_length == 0 && is_level_at(i / block_length, here))
             i += block_length;
         else if (kept_row(i) == here)
             ++i;
@@ -170,7 +220,7 @@ std::optional<qsizetype> pixel_rows::previous_row(qsizetype index, qsizetype fir
     const int here = kept_row(index);
     qsizetype i = index;
     while (i > first) {
-        if (i % block_length == 0 && is_level(i / block_length - 1, here))
+        if (i % block_length == 0 && is_level_at(i / block_length - 1, here))
             i -= block_length;
         else if (kept_row(i - 1) == here)
             --i;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "plot/drawing/row_window.h"
+#include "plot/drawing/value_blocks.h"
 
 #include <QList>
 
@@ -10,17 +11,18 @@
 #include <limits>
 #include <optional>
 #include <span>
+#include <vector>
 
 /// The pixel row of each value of a series, as a plot draws it with the present scale of its value
 /// axis, and what the rows of a long stretch have in common.
 ///
 /// A row is found when it is first needed, and then kept as a small number: a zoom or a pan of the
-/// time axis reads these, no values. Rows of the same 64 values, a block, are summed up. A row far
+/// time axis reads these, no values. The rows of each block of values are summed up. A row far
 /// above or below the window stands for all that are still farther away.
 class pixel_rows
 {
 public:
-    static constexpr qsizetype block_length = 64;  ///< the last one may be shorter
+    static constexpr qsizetype block_length = value_blocks::length;
     static constexpr int farthest_row = 30'000;    ///< that is kept; see above
     static constexpr int farthest_window = 10'000; ///< from 0
 
@@ -31,8 +33,8 @@ public:
         qsizetype vertices; ///< that the line gets at these points, each seen from the one before
     };
 
-    /// `values` must be finite and outlive this.
-    explicit pixel_rows(std::span<const double> values);
+    /// The values, which must be finite, and their ranges must outlive this.
+    pixel_rows(std::span<const double> values, const value_blocks& ranges);
 
     /// Sets the scale and the rows between which the line is kept, none of them farther away than
     /// `farthest_window`. Rows that have been found remain if they only move, all by the same whole
@@ -49,21 +51,16 @@ public:
     /// consecutive points of one row make one vertex, and so does each crossing of an edge.
     int vertices_at(qsizetype index) const
     {
-        return kept.vertices_of_change(kept_row(index - 1), kept_row(index));
+        const int before =
+            index % block_length == 0 ? blocks[index / block_length].before : kept_row(index - 1);
+        return kept.vertices_of_change(before, kept_row(index));
     }
 
     /// There must be at least one point.
     summary sum_up(qsizetype first, qsizetype end) const;
 
     /// The same for points of one block, at once if these are all of it.
-    summary sum_up_in_block(qsizetype first, qsizetype end) const
-    {
-        const qsizetype index = first / block_length;
-        if (first != index * block_length || end != end_within(index))
-            return sum_up_points(first, end);
-        const block& all = blocks[index];
-        return {{all.top + shift, all.bottom + shift}, all.vertices};
-    }
+    summary sum_up_in_block(qsizetype first, qsizetype end) const;
 
     /// The first point of the next block.
     static qsizetype end_of_block(qsizetype index)
@@ -80,30 +77,41 @@ private:
     // What is known of a block. No point makes more than three vertices.
     struct block
     {
+        qint16 before; // the row of the point before, or of the first of all
         qint16 top;
         qint16 bottom;
         quint8 vertices;
         bool is_found = false;
         bool is_near_half; // whether the rows may not move without being found anew
+        int place = -1;    // of its rows, once it has been more than level
+
+        bool is_level() const { return top == bottom; }
     };
     static_assert(3 * block_length <= std::numeric_limits<quint8>::max());
 
     qsizetype size() const { return static_cast<qsizetype>(values.size()); }
-    int kept_row(qsizetype index) const { return rows[index + 1]; }
     qsizetype end_within(qsizetype block) const
     {
         return std::min((block + 1) * block_length, size());
     }
+    int kept_row(qsizetype index) const
+    {
+        const block& all = blocks[index / block_length];
+        return all.is_level() ? all.top : rows_of(all)[index % block_length];
+    }
+    const qint16* rows_of(const block& each) const { return rows.data() + each.place; }
     void find_block(qsizetype index);
-    void add_up_block(qsizetype index);
-    summary sum_up_points(qsizetype first, qsizetype end) const;
-    bool is_level(qsizetype block, int row) const;
+    void find_rows(qsizetype index);
+    void count_vertices(qsizetype index);
+    bool is_level_at(qsizetype block, int row) const;
 
     std::span<const double> values;
+    const value_blocks& ranges;
     QwtScaleMap first_scale; // to which the rows that are kept belong
     QwtScaleMap present_scale;
     int shift = 0;         // from the rows that are kept to the present ones
     row_window kept{0, 0}; // in the same terms as these rows
-    QList<qint16> rows;    // one more in front, so that the first has one before it
+    // Only of blocks that are not level: memory that is not touched costs no time.
+    std::vector<qint16> rows;
     QList<block> blocks;
 };

@@ -1,13 +1,9 @@
 #include "plot/drawing/sampled_line.h"
 
 #include <algorithm>
-#include <array>
 #include <cmath>
-#include <limits>
 
 namespace {
-
-using extent = sampled_line::extent;
 
 // Whether no value is lower than the one before, infinite or NaN, with which no comparison is true.
 // Looks at some values at once, since that is quicker than to stop at the first.
@@ -25,40 +21,14 @@ bool rises_orderly(std::span<const double> values)
     return std::isfinite(values.front()) && std::isfinite(values.back());
 }
 
-// The range of the values; nothing if one is infinite or NaN. Every eighth value belongs together,
-// so that none waits for the one before.
-std::optional<extent> range_of(std::span<const double> values)
-{
-    constexpr std::size_t lanes = 8;
-    std::array<double, lanes> low;
-    std::array<double, lanes> high;
-    std::array<double, lanes> difference{}; // 0, but NaN once a value is infinite or NaN
-    low.fill(values.front());
-    high.fill(values.front());
-    const auto look_at = [&](std::size_t lane, double value) {
-        low[lane] = value < low[lane] ? value : low[lane];
-        high[lane] = value > high[lane] ? value : high[lane];
-        difference[lane] += value - value;
-    };
-    std::size_t i = 0;
-    for (; i + lanes <= values.size(); i += lanes) {
-        for (std::size_t lane = 0; lane < lanes; ++lane)
-            look_at(lane, values[i + lane]);
-    }
-    for (; i < values.size(); ++i)
-        look_at(0, values[i]);
-    if (std::ranges::any_of(difference, [](double each) { return std::isnan(each); }))
-        return std::nullopt;
-    return extent{std::ranges::min(low), std::ranges::max(high)};
-}
-
 } // namespace
 
 sampled_line::sampled_line(std::span<const double> x, std::span<const double> y)
     : x(x)
     , y(y)
-    , y_extent(rises_orderly(x) ? range_of(y) : std::nullopt)
-    , rows(y)
+    , blocks(y)
+    , orderly(blocks.all_are_finite() && rises_orderly(x))
+    , rows(y, blocks)
 {
 }
 

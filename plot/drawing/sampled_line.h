@@ -3,33 +3,28 @@
 #include "plot/drawing/pixel_map.h"
 #include "plot/drawing/pixel_rows.h"
 #include "plot/drawing/row_window.h"
+#include "plot/drawing/value_blocks.h"
 
 #include <QPoint>
 
-#include <optional>
 #include <span>
 
 /// A series of points as a plot draws it with its present scales.
 class sampled_line
 {
 public:
-    /// The smallest and the largest value.
-    struct extent
-    {
-        double low;
-        double high;
-    };
-
     /// Both must have the same length, one point at least, and outlive this.
     sampled_line(std::span<const double> x, std::span<const double> y);
 
     /// Whether x never falls and no coordinate is infinite or NaN. If not, only `size` may be
     /// asked.
-    bool is_orderly() const { return y_extent.has_value(); }
+    bool is_orderly() const { return orderly; }
 
     qsizetype size() const { return static_cast<qsizetype>(x.size()); }
     double x_of(qsizetype index) const { return x[static_cast<std::size_t>(index)]; }
-    extent range() const { return *y_extent; }
+
+    /// The range of all values.
+    value_blocks::extent range() const { return blocks.all(); }
 
     /// Sets the scale that columns refer to. It must not be inverted.
     void set_x_scale(const QwtScaleMap& scale) { x_map = scale; }
@@ -56,7 +51,8 @@ public:
 private:
     std::span<const double> x;
     std::span<const double> y;
-    std::optional<extent> y_extent; // of an orderly line
+    value_blocks blocks;
+    bool orderly;
     QwtScaleMap x_map;
     QwtScaleMap y_map;
     row_window kept{0, 0};
