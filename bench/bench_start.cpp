@@ -12,7 +12,7 @@
 
 namespace {
 
-constexpr int runs = 40;
+constexpr int runs = 100;
 
 // Milliseconds until the program's window was painted; zero if it failed.
 double start_time(const std::string& program)
