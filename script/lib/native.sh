@@ -14,7 +14,7 @@ native_fingerprint() {
   stat -c '%n %y' /var/lib/dpkg/status /usr/lib/sysimage/rpm/* /var/lib/rpm/* \
     /var/lib/pacman/local /usr/lib/locale 2>/dev/null || true
   printf '%s\n' "$PATH" "${CXX-}" "${CMAKE_PREFIX_PATH-}"
-  cat "$project_dir"/script/{lib/probe.sh,packages/commands,probe/CMakeLists.txt} \
+  cat "$project_dir"/script/{lib/probe.sh,packages/commands,packages/locales,probe/CMakeLists.txt} \
     "$project_dir"/cmake/*.cmake
 }
 
@@ -36,6 +36,8 @@ native_lacks() { tail -n +2 "$cache_dir/native-$1" | paste -sd, | sed 's/,/, /g'
 wanted_packages() {
   awk -v kind="$1" '$1 == "build" || $1 == kind { print $2, $3 }' "$project_dir/script/packages/$2"
 }
+
+wanted_locales() { grep -v '^#' "$project_dir/script/packages/locales"; }
 
 apt_candidate() {
   LC_ALL=C apt-cache policy "$1" 2>/dev/null | sed -n 's/^ *Candidate: //p' | grep -vx '(none)'
@@ -100,11 +102,16 @@ install_packages() {
     die "the packages could not be installed" "Mend the package manager, or run as root: $line"
 }
 
-# Debian generates locales on demand; the other systems ship this one or have its sources.
-native_locale() {
+# Debian generates locales on demand; the other systems ship them or have their sources.
+native_locales() {
+  local name there
   [[ $1 == test ]] || return 0
-  locale -a 2>/dev/null | grep -qix 'de_DE\.utf-\?8' && return
-  as_root_or_die "generating the locale de_DE.UTF-8" localedef -i de_DE -f UTF-8 de_DE.UTF-8
+  there=$(locale -a 2>/dev/null)
+  while read -r name; do
+    grep -qix "$name\.utf-\?8" <<<"$there" ||
+      as_root_or_die "generating the locale $name.UTF-8" \
+        localedef -i "$name" -f UTF-8 "$name.UTF-8"
+  done < <(wanted_locales)
 }
 
 # native_set_up KIND
@@ -112,7 +119,7 @@ native_set_up() {
   local -a packages
   mapfile -t packages < <(missing_packages "$1" "$(package_manager)")
   ((${#packages[@]} == 0)) || install_packages "${packages[@]}"
-  native_locale "$1"
+  native_locales "$1"
   native_suffices "$1" || die "this system still lacks: $(native_lacks "$1")" \
     "Use Debian 12 or later, Ubuntu 26.04 or later, or a current Fedora or Arch"
 }

@@ -14,9 +14,13 @@ missing_commands() {
   done < <(grep -v '^#' "$here/packages/commands")
 }
 
-missing_locale() {
+missing_locales() {
+  local name there
   [[ $kind == test ]] || return 0
-  locale -a 2>/dev/null | grep -qix 'de_DE\.utf-\?8' || echo 'the locale de_DE.UTF-8'
+  there=$(locale -a 2>/dev/null)
+  while read -r name; do
+    grep -qix "$name\.utf-\?8" <<<"$there" || printf 'the locale %s.UTF-8\n' "$name"
+  done < <(grep -v '^#' "$here/packages/locales")
 }
 
 # CMake's own search is the only judge that agrees with the later build on every system.
@@ -31,6 +35,6 @@ missing_libraries() {
   rm -rf -- "$scratch"
 }
 
-lacking=$(missing_commands; missing_locale)
+lacking=$(missing_commands; missing_locales)
 [[ -n $lacking ]] || lacking=$(missing_libraries)
 [[ -z $lacking ]] || { printf '%s\n' "$lacking"; exit 1; }

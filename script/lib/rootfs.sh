@@ -1,13 +1,13 @@
 # shellcheck shell=bash disable=SC2154
 # A root file system with the dependencies, for a Debian whose own Qt and Qwt are too old.
 # shellcheck disable=SC2016 # apt and the hooks expand these themselves
-# Its recipe is this file and packages/apt: when one of them changes, it is made anew.
+# Its recipe is this file, packages/apt and packages/locales: when one of them changes, it is made anew.
 
 rootfs_release=forky
 rootfs_megabytes=2600
 
 rootfs_key() {
-  { cat "$project_dir"/script/lib/rootfs.sh "$project_dir"/script/packages/apt
+  { cat "$project_dir"/script/lib/rootfs.sh "$project_dir"/script/packages/{apt,locales}
     dpkg --print-architecture; } 2>/dev/null | sha256sum | cut -c1-16
 }
 
@@ -35,7 +35,8 @@ rootfs_packages() { wanted_packages test apt | cut -d' ' -f1 | paste -sd,; }
 
 # Things inside the tree that the sandbox later covers with the system's own must exist.
 rootfs_hooks=(
-  --customize-hook='chroot "$1" localedef -i de_DE -f UTF-8 de_DE.UTF-8'
+  --customize-hook="for name in $(wanted_locales | paste -sd' '); do
+    chroot \"\$1\" localedef -i \$name -f UTF-8 \$name.UTF-8 || exit; done"
   --customize-hook='cd "$1/etc" && rm -f localtime resolv.conf apt/apt.conf.d/99mmdebstrap'
   --customize-hook='cd "$1/etc" && touch localtime resolv.conf hosts machine-id passwd group'
 )

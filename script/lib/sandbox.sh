@@ -14,12 +14,17 @@ inner_folder() {
   esac
 }
 
-# Locales other than these do not exist inside.
+# The locale inside that has this language.
+locale_of_language() {
+  local name
+  name=$(wanted_locales | grep "^${1:-none}_") && printf '%s.UTF-8\n' "$name" || echo C.UTF-8
+}
+
+# Other locales do not exist inside.
 inner_locale() {
   case $1 in
-    C | POSIX | C.UTF-8 | C.utf8 | de_DE.UTF-8 | de_DE.utf8) printf '%s\n' "$1" ;;
-    de_*) echo de_DE.UTF-8 ;;
-    *) echo C.UTF-8 ;;
+    C | POSIX | C.UTF-8 | C.utf8) printf '%s\n' "$1" ;;
+    *) locale_of_language "${1%%_*}" ;;
   esac
 }
 
