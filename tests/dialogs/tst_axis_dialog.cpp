@@ -1,4 +1,5 @@
 #include "tests/support/log_capture.h"
+#include "tests/support/typing.h"
 #include "ui/axis_dialog.h"
 
 #include <QDialogButtonBox>
@@ -38,7 +39,7 @@ void type(QDoubleSpinBox* box, const QString& text)
 {
     box->setFocus();
     box->selectAll();
-    QTest::keyClicks(box, text);
+    type_text(box, text);
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 #include "plot/korimo_plot.h"
 #include "tests/support/log_capture.h"
 #include "tests/support/modal_answer.h"
+#include "tests/support/typing.h"
 #include "tests/support/window_driver.h"
 #include "ui/axis_dialog.h"
 
@@ -64,7 +65,7 @@ void type(QDoubleSpinBox& which, double value)
 {
     QTest::mouseDClick(which.findChild<QLineEdit*>(), Qt::LeftButton);
     which.selectAll();
-    QTest::keyClicks(&which, QString::number(value, 'f', 1));
+    type_text(&which, QLocale().toString(value, 'f', 1));
 }
 
 // Types both bounds and clicks on "OK".
