@@ -33,7 +33,8 @@ bool is_result_file(const QUrl& url)
 
 void MainWindow::selectFiles()
 {
-    for (const QString& path : choose_result_files(this))
+    const auto paths = choose_result_files(this);
+    for (const QString& path : paths)
         add_file(path);
 }
 
@@ -53,7 +54,8 @@ void MainWindow::dropEvent(QDropEvent* event)
     if (!event->mimeData()->hasUrls())
         return;
     accept_as_copy(*event);
-    for (const QUrl& url : event->mimeData()->urls()) {
+    const auto urls = event->mimeData()->urls();
+    for (const QUrl& url : urls) {
         if (is_result_file(url))
             add_file(url.toLocalFile());
     }

@@ -4,8 +4,10 @@
 #include "ui/image_file_name.h"
 #include "ui_mainwindow.h"
 
+#include <QFileInfo>
 #include <QPainter>
 #include <QPixmap>
+#include <QSaveFile>
 
 #include <qwt_plot_renderer.h>
 
@@ -31,6 +33,18 @@ QPixmap stacked(const QPixmap& upper, const QPixmap& lower)
     return both;
 }
 
+// At once and whole, so that no other viewer that saves or shows the same picture meets half of it.
+// Where that is impossible (a device, a very long name, a folder that is closed), as it comes.
+void save(const QPixmap& picture, const QString& file)
+{
+    const QFileInfo place(file);
+    QSaveFile whole(file);
+    const bool can_be_replaced = place.isFile() || !place.exists();
+    if (!can_be_replaced || !whole.open(QIODevice::WriteOnly) || !picture.save(&whole, "PNG") ||
+        !whole.commit())
+        picture.save(file, "PNG");
+}
+
 } // namespace
 
 bool MainWindow::has_curves(QwtPlot* plot)
@@ -50,7 +64,7 @@ void MainWindow::on_action_speicher_triggered()
     const QString file = two_step_mode ? image_file_of_curve(path, selected_item_name)
                                        : image_file_of_hydrograph(path);
     // Deliberate: the box names the file that was meant, whatever became of it.
-    picture.save(file, "PNG");
+    save(picture, file);
     QMessageBox box;
     box.setWindowIcon(application_icon());
     box.setText(QStringLiteral("File saved to ") + file);
