@@ -1,6 +1,7 @@
 #include "tests/end_to_end/road.h"
 
 #include <QApplication>
+#include <QFile>
 #include <QTest>
 
 namespace {
@@ -65,6 +66,24 @@ void road::add_by_typing(const QStringList& names)
 void road::select_row(int row) const
 {
     program->click(place::files.topLeft() + QPoint(100, 9 + 16 * row));
+}
+
+QImage road::save_picture(const QString& name)
+{
+    program->choose_file_entry(1);
+    const bool saved = QTest::qWaitFor([&] { return QFile::exists(program->path_of(name)); });
+    keep_screenshot("saved");
+    program->key("Return");
+    return saved ? QImage(program->path_of(name)) : QImage();
+}
+
+void road::open_manual(const QString& title)
+{
+    program->click_in_window(plan->menu("Dokumentation").center());
+    program->key("Down");
+    program->key("Return");
+    QVERIFY(viewer::sees_window(title));
+    QTest::qWait(1000); // until the first page has been drawn
 }
 
 void road::keep_screenshot(const QString& name)

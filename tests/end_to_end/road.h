@@ -38,6 +38,10 @@ protected:
     void add_by_typing(const QStringList& names);
     /// Clicks on a row of the file list.
     void select_row(int row) const;
+    /// Saves the plots; answers the picture of this name, once the box has told of it.
+    QImage save_picture(const QString& name);
+    /// Opens the manual and waits for a window with this title.
+    void open_manual(const QString& title);
     /// Keeps a screenshot of this name, if screenshots are wanted.
     static void keep_screenshot(const QString& name);
 

@@ -21,14 +21,13 @@ private slots:
 private:
     void plot(const QStringList& examples);
     void set_range(const QString& command, const QString& minimum, const QString& maximum);
-    QImage save_picture(const QString& name);
     void open_info(int entry, const QString& title);
 };
 
 namespace {
 
-const QString range_title = "Achsenskalierung";
-const QString names_title = "Zeitreihen umbenennen";
+constexpr const char* range_title = "Achsenskalierung";
+constexpr const char* names_title = "Zeitreihen umbenennen";
 
 // In the axis dialog and the rename dialog.
 constexpr QPoint minimum_box(100, 101);
@@ -144,16 +143,6 @@ void tst_commands_road::ranges_outlive_a_change_of_file()
     program->click(place::plot_button.center());
     QTRY_VERIFY(program->sees(place::lower_plot, green) > 100);
     QVERIFY(program->look(lower_left_axis) != fixed);
-}
-
-// Answers the picture, once the box has told of it.
-QImage tst_commands_road::save_picture(const QString& name)
-{
-    program->choose_file_entry(1);
-    const bool saved = QTest::qWaitFor([&] { return QFile::exists(program->path_of(name)); });
-    keep_screenshot("saved");
-    program->key("Return");
-    return saved ? QImage(program->path_of(name)) : QImage();
 }
 
 void tst_commands_road::new_name_in_the_legend_and_the_picture()

@@ -131,7 +131,7 @@ void tst_hydrograph_road::drop_from_another_program()
         QTRY_VERIFY(program->sees(first_file_row.translated(0, 16), Qt::black) > 20);
         QTRY_COMPARE(program->sees(first_file_row.translated(0, 32), Qt::black), 0);
     }
-    for (const QUrl& url : urls)
+    for (const QUrl& url : std::as_const(urls))
         QVERIFY(QFile::exists(url.toLocalFile()));
 }
 
@@ -139,7 +139,6 @@ void tst_hydrograph_road::plot_zoom_pan_and_clear()
 {
     add_by_typing({"Erlenbach_K1.wel"});
     select_row(0);
-    const QImage empty = program->look(place::lower_plot);
     program->click(place::plot_button.center());
     QTRY_VERIFY(program->sees(place::lower_plot, blue) > 100);
     QTRY_VERIFY(program->sees(place::lower_plot, green) > 100);

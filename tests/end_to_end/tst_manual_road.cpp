@@ -19,7 +19,6 @@ private slots:
     void missing_manual();
 
 private:
-    void open_manual(const QString& title);
     bool changes_by(const std::function<void()>& act);
     void type_zoom(const QString& text);
     QImage pages() const;
@@ -27,12 +26,12 @@ private:
 
 namespace {
 
-const QString manual_title = "plot_korimo: Ganglinien und Kennlinien ansehen";
+constexpr QLatin1StringView manual_title("plot_korimo: Ganglinien und Kennlinien ansehen");
 
 // Places in the manual's window: the tool bar is as high as its largest item, the tabs stand at
 // the left edge, and the page view fills what is right of the side panel.
 // The key F3 by its code: by its name, xdotool presses Alt with it.
-const QString find_next = "69";
+constexpr QLatin1StringView find_next("69");
 
 constexpr int first_line = 60;
 constexpr QPoint first_bookmark(120, first_line);
@@ -44,15 +43,6 @@ constexpr QPoint pages_tab(13, 160);
 constexpr QPoint third_thumbnail(120, 500);
 
 } // namespace
-
-void tst_manual_road::open_manual(const QString& title)
-{
-    program->click_in_window(plan->menu("Dokumentation").center());
-    program->key("Down");
-    program->key("Return");
-    QVERIFY(viewer::sees_window(title));
-    QTest::qWait(1000); // until the first page has been drawn
-}
 
 // What the right part of the screen shows: the page, since the manual covers most of it.
 QImage tst_manual_road::pages() const

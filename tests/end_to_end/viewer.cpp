@@ -42,9 +42,8 @@ QStringList visible_windows(const QString& title)
 
 } // namespace
 
-viewer::viewer()
+viewer::viewer(QProcessEnvironment environment)
 {
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert("QT_QPA_PLATFORM", "xcb");
     program.setProcessEnvironment(environment);
     program.setWorkingDirectory(folder.path());
@@ -64,7 +63,8 @@ bool viewer::is_shown()
 {
     const QDeadlineTimer deadline(20s);
     while (!deadline.hasExpired()) {
-        for (const QString& candidate : visible_windows("plot_korimo")) {
+        const auto candidates = visible_windows("plot_korimo");
+        for (const QString& candidate : candidates) {
             const QString geometry = xdotool({"getwindowgeometry", "--shell", candidate});
             if (!geometry.contains("WIDTH=941\nHEIGHT=848"))
                 continue;
@@ -84,7 +84,7 @@ int viewer::central_widget_top() const
 {
     const QImage screen = screenshot();
     int top = 0;
-    while (top < 200 && screen.pixelColor(inside + QPoint(5, top)) != QColor("#c9c7c7"))
+    while (top < 200 && screen.pixelColor(inside + QPoint(5, top)) != QColor(0xc9c7c7))
         ++top;
     return top;
 }
@@ -126,7 +126,7 @@ void viewer::click_in_dialog(const QString& title, const QPoint& point, int time
 int viewer::height_of(const QString& title)
 {
     const QString text = xdotool({"getwindowgeometry", "--shell", visible_windows(title).value(0)});
-    const QRegularExpression line("^HEIGHT=(\\d+)$", QRegularExpression::MultilineOption);
+    static const QRegularExpression line("^HEIGHT=(\\d+)$", QRegularExpression::MultilineOption);
     return line.match(text).captured(1).toInt();
 }
 

@@ -11,7 +11,7 @@ class viewer
 {
 public:
     /// Starts the program in a folder of its own.
-    viewer();
+    explicit viewer(QProcessEnvironment environment = QProcessEnvironment::systemEnvironment());
     ~viewer();
 
     viewer(const viewer&) = delete;
