@@ -10,7 +10,7 @@ namespace {
 
 using open_function = void (*)(QWidget*, const QIcon&, const QString&);
 
-const QString module_name = QStringLiteral(KORIMO_MANUAL_MODULE);
+constexpr QLatin1StringView module_name(KORIMO_MANUAL_MODULE);
 
 open_function opener_in(const QString& module)
 {
@@ -26,7 +26,7 @@ open_function opener_in(const QString& module)
 QString manual_module_of(const QString& program_folder)
 {
     const QDir folder(program_folder);
-    for (const QString& place : {module_name, QStringLiteral(KORIMO_INSTALLED_MODULE)}) {
+    for (const QString& place : {QString(module_name), QStringLiteral(KORIMO_INSTALLED_MODULE)}) {
         if (QFile::exists(folder.filePath(place)))
             return folder.filePath(place);
     }

@@ -93,7 +93,8 @@ int main(int argc, char** argv)
 
     QwtPlot plain;
     plain.resize(lower.size());
-    for (QwtPlotItem* item : lower.itemList(QwtPlotItem::Rtti_PlotCurve))
+    const auto items = lower.itemList(QwtPlotItem::Rtti_PlotCurve);
+    for (QwtPlotItem* item : items)
         add_copy(plain, *dynamic_cast<QwtPlotCurve*>(item));
     finish(plain);
     plain.show();

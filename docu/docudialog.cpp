@@ -39,7 +39,8 @@ DocuDialog::DocuDialog(QWidget* parent)
 // What the children report while they go would reach a dialog that is half gone itself.
 DocuDialog::~DocuDialog()
 {
-    for (QObject* child : findChildren<QObject*>())
+    const auto children = findChildren<QObject*>();
+    for (QObject* child : children)
         child->disconnect(this);
 }
 

@@ -6,8 +6,8 @@
 
 namespace {
 
-const QString fitWidth = QStringLiteral("Fit Width");
-const QString fitPage = QStringLiteral("Fit Page");
+constexpr QLatin1StringView fitWidth("Fit Width");
+constexpr QLatin1StringView fitPage("Fit Page");
 constexpr int indexOf100 = 8;
 
 // Text that is no whole number stands for 100 %.

@@ -181,7 +181,8 @@ void dense_line::draw_bars(QPainter& painter) const
 void dense_line::draw_steps(QPainter& painter) const
 {
     std::optional<stretch> shown;
-    for (const stretch& step : shown_steps()) {
+    const QList<stretch> steps = shown_steps();
+    for (const stretch& step : steps) {
         if (shown && continues(*shown, step.from)) {
             shown->to = step.to;
             continue;

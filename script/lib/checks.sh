@@ -78,6 +78,21 @@ check_preset() {
   fi
 }
 
+# Every source file that takes part in the build, but for those that the build writes.
+built_sources() {
+  grep -oP '^  "file": "\K[^"]+' "$build_dir/release/compile_commands.json" |
+    grep -v "^$build_dir/" | sort -u
+}
+
+# analyse CHECKER…: runs it on all of them, a few at a time.
+analyse() { built_sources | xargs -d '\n' -n 3 -P "$(nproc)" "$@"; }
+
+check_with_clang_tidy() { analyse clang-tidy -p "$build_dir/release" --quiet; }
+
+check_with_clazy() {
+  analyse clazy-standalone -p "$build_dir/release" --checks=level0,level1 --extra-arg=-Werror
+}
+
 check_scripts() {
   local script
   for script in tests/scripts/*.sh; do bash "$script" || return; done
@@ -88,6 +103,11 @@ logged "$build_dir/format.log" "checking the formatting" check_formatting ||
 logged "$build_dir/scripts.log" "testing the scripts" check_scripts || fail "tests/scripts"
 check_preset dev
 check_preset release
+# Both need the headers that the build writes.
+logged "$build_dir/clang-tidy.log" "analysing with clang-tidy" check_with_clang_tidy ||
+  fail "clang-tidy: script/env clang-tidy -p build/release FILE shows it"
+logged "$build_dir/clazy.log" "analysing with clazy" check_with_clazy ||
+  fail "clazy: script/env clazy-standalone -p build/release FILE shows it"
 
 ((passed + failed > 0)) || fail "no test ran"
 printf '\n%d passed, %d failed\n' "$passed" "$failed"

@@ -29,7 +29,10 @@ struct shown_dialog
     QPushButton* cancel;
 };
 
-const QStringList old_names{"Qein", "Qab", "V", "QG"};
+QStringList old_names()
+{
+    return {"Qein", "Qab", "V", "QG"};
+}
 
 } // namespace
 
@@ -93,8 +96,8 @@ void tst_rename_dialog::texts()
 void tst_rename_dialog::one_row_for_each_name()
 {
     shown_dialog shown;
-    shown.dialog.set_old_names(old_names);
-    QCOMPARE(texts_of_column(shown.dialog, 0), old_names);
+    shown.dialog.set_old_names(old_names());
+    QCOMPARE(texts_of_column(shown.dialog, 0), old_names());
     QCOMPARE(texts_of_column(shown.dialog, 1), QStringList(4, ""));
     QCOMPARE(shown.table->item(0, 0)->flags(), QTableWidgetItem().flags());
     QCOMPARE(shown.table->item(0, 0)->type(), 0);
@@ -103,9 +106,9 @@ void tst_rename_dialog::one_row_for_each_name()
 void tst_rename_dialog::old_names_can_be_edited_without_effect()
 {
     shown_dialog shown;
-    shown.dialog.set_old_names(old_names);
+    shown.dialog.set_old_names(old_names());
     fill_cell(shown.dialog, 1, 0, "edited");
-    QCOMPARE(texts_of_column(shown.dialog, 0)[1], "edited");
+    QCOMPARE(texts_of_column(shown.dialog, 0).at(1), "edited");
     QTest::mouseClick(shown.ok, Qt::LeftButton);
     QCOMPARE(shown.dialog.get_new_names(), QStringList(4, ""));
 }
@@ -114,7 +117,7 @@ void tst_rename_dialog::nothing_typed()
 {
     shown_dialog shown;
     const QSignalSpy passed(&shown.dialog, SIGNAL(pass_curve_names(QStringList)));
-    shown.dialog.set_old_names(old_names);
+    shown.dialog.set_old_names(old_names());
     QTest::mouseClick(shown.ok, Qt::LeftButton);
     QVERIFY(!shown.dialog.isVisible());
     QCOMPARE(shown.dialog.get_new_names(), QStringList(4, ""));
@@ -124,7 +127,7 @@ void tst_rename_dialog::nothing_typed()
 void tst_rename_dialog::one_name_typed()
 {
     shown_dialog shown;
-    shown.dialog.set_old_names(old_names);
+    shown.dialog.set_old_names(old_names());
     fill_cell(shown.dialog, 1, 1, "Q Überlauf");
     QTest::mouseClick(shown.ok, Qt::LeftButton);
     QCOMPARE(shown.dialog.get_new_names(), (QStringList{"", "Q Überlauf", "", ""}));
@@ -133,10 +136,10 @@ void tst_rename_dialog::one_name_typed()
 void tst_rename_dialog::blanks_belong_to_a_name()
 {
     shown_dialog shown;
-    shown.dialog.set_old_names(old_names);
+    shown.dialog.set_old_names(old_names());
     fill_cell(shown.dialog, 0, 1, "  Q  ");
     QTest::mouseClick(shown.ok, Qt::LeftButton);
-    QCOMPARE(shown.dialog.get_new_names()[0], "  Q  ");
+    QCOMPARE(shown.dialog.get_new_names().at(0), "  Q  ");
 }
 
 void tst_rename_dialog::cell_being_edited_counts_data()
@@ -154,19 +157,19 @@ void tst_rename_dialog::cell_being_edited_counts()
     QFETCH(int, row);
     QFETCH(bool, by_mouse);
     shown_dialog shown;
-    shown.dialog.set_old_names(old_names);
+    shown.dialog.set_old_names(old_names());
     type_into_cell(shown.dialog, row, 1, "still open");
     if (by_mouse)
         QTest::mouseClick(shown.ok, Qt::LeftButton);
     else
         shown.ok->click(); // takes no focus away from the cell
-    QCOMPARE(shown.dialog.get_new_names()[row], "still open");
+    QCOMPARE(shown.dialog.get_new_names().at(row), "still open");
 }
 
 void tst_rename_dialog::enter_in_a_cell_keeps_the_dialog_open()
 {
     shown_dialog shown;
-    shown.dialog.set_old_names(old_names);
+    shown.dialog.set_old_names(old_names());
     type_into_cell(shown.dialog, 2, 1, "new");
     QTest::keyClick(open_editor(shown.dialog), Qt::Key_Return);
     QTRY_VERIFY(!open_editor(shown.dialog));
@@ -189,19 +192,19 @@ void tst_rename_dialog::leaving_without_ok()
 {
     QFETCH(std::function<void(shown_dialog&)>, leave);
     shown_dialog shown;
-    shown.dialog.set_old_names(old_names);
+    shown.dialog.set_old_names(old_names());
     fill_cell(shown.dialog, 1, 1, "new");
     leave(shown);
     QVERIFY(!shown.dialog.isVisible());
     QVERIFY(shown.dialog.get_new_names().isEmpty());
     QCOMPARE(shown.table->rowCount(), 4);
-    QCOMPARE(texts_of_column(shown.dialog, 1)[1], "new");
+    QCOMPARE(texts_of_column(shown.dialog, 1).at(1), "new");
 }
 
 void tst_rename_dialog::typed_names_stay_for_the_next_time()
 {
     shown_dialog shown;
-    shown.dialog.set_old_names(old_names);
+    shown.dialog.set_old_names(old_names());
     fill_cell(shown.dialog, 1, 1, "new");
     QTest::mouseClick(shown.cancel, Qt::LeftButton);
     shown.dialog.set_old_names({"a", "b", "c"});
@@ -225,23 +228,23 @@ void tst_rename_dialog::names_add_up_until_they_are_cleared()
 void tst_rename_dialog::clearing()
 {
     shown_dialog shown;
-    shown.dialog.set_old_names(old_names);
+    shown.dialog.set_old_names(old_names());
     fill_cell(shown.dialog, 0, 1, "new");
     QTest::mouseClick(shown.ok, Qt::LeftButton);
     shown.dialog.clear_names();
     QVERIFY(shown.dialog.get_new_names().isEmpty());
     QCOMPARE(shown.table->rowCount(), 0);
-    shown.dialog.set_old_names(old_names);
+    shown.dialog.set_old_names(old_names());
     QCOMPARE(texts_of_column(shown.dialog, 1), QStringList(4, ""));
 }
 
 void tst_rename_dialog::fewer_names_than_before()
 {
     shown_dialog shown;
-    shown.dialog.set_old_names(old_names);
+    shown.dialog.set_old_names(old_names());
     fill_cell(shown.dialog, 3, 1, "new");
     shown.dialog.set_old_names({"a", "b"});
-    shown.dialog.set_old_names(old_names);
+    shown.dialog.set_old_names(old_names());
     QCOMPARE(texts_of_column(shown.dialog, 1), QStringList(4, ""));
 }
 

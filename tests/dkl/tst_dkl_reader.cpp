@@ -30,7 +30,10 @@ reading read(QByteArray bytes, const QString& item = "Sp_12_Auslass")
     return result;
 }
 
-const QByteArray header_line = "12 Auslass km Sp\n";
+QByteArray header_line()
+{
+    return "12 Auslass km Sp\n";
+}
 
 } // namespace
 
@@ -55,29 +58,29 @@ void tst_dkl_reader::curve_data()
     QTest::addColumn<QByteArray>("text");
     QTest::addColumn<values>("levels");
     QTest::addColumn<values>("discharges");
-    QTest::newRow("as many as announced") << header_line + "Wo Qd\n2\n101.5 2\n102 3\n"
+    QTest::newRow("as many as announced") << header_line() + "Wo Qd\n2\n101.5 2\n102 3\n"
                                           << values{101.5, 102} << values{2, 3};
-    QTest::newRow("more than announced") << header_line + "3\n1 1\n2 2\n3 3\n4 4\n5 5\n"
+    QTest::newRow("more than announced") << header_line() + "3\n1 1\n2 2\n3 3\n4 4\n5 5\n"
                                          << values{1, 2, 3} << values{1, 2, 3};
-    QTest::newRow("fewer than announced") << header_line + "3\n1 1\n" << values{1} << values{1};
-    QTest::newRow("true zero") << header_line + "1\n101.5 0.000000E+00\n"
+    QTest::newRow("fewer than announced") << header_line() + "3\n1 1\n" << values{1} << values{1};
+    QTest::newRow("true zero") << header_line() + "1\n101.5 0.000000E+00\n"
                                << values{101.5} << values{0};
-    QTest::newRow("exponent 0 with level 0") << header_line + "1\n0 1.5E+00\n"
+    QTest::newRow("exponent 0 with level 0") << header_line() + "1\n0 1.5E+00\n"
                                              << values{0} << values{0};
-    QTest::newRow("rejected but counted") << header_line + "2\n0 2.5\n1 1\n2 2\n"
+    QTest::newRow("rejected but counted") << header_line() + "2\n0 2.5\n1 1\n2 2\n"
                                           << values{1} << values{1};
-    QTest::newRow("one field") << header_line + "2\n7.5\n1 1\n" << values{1} << values{1};
-    QTest::newRow("count before the header") << "5\n" + header_line + "1 1\n"
+    QTest::newRow("one field") << header_line() + "2\n7.5\n1 1\n" << values{1} << values{1};
+    QTest::newRow("count before the header") << "5\n" + header_line() + "1 1\n"
                                              << values{} << values{};
-    QTest::newRow("data with Wo>") << header_line + "2\n1 1 Wo>\n2 2\n"
+    QTest::newRow("data with Wo>") << header_line() + "2\n1 1 Wo>\n2 2\n"
                                    << values{1, 2} << values{1, 2};
-    QTest::newRow("blanks around the count") << header_line + "  1  \n1 1\n"
+    QTest::newRow("blanks around the count") << header_line() + "  1  \n1 1\n"
                                              << values{1} << values{1};
-    QTest::newRow("0 is no count") << header_line + "2\n0\n1 1\n" << values{1} << values{1};
-    QTest::newRow("second count") << header_line + "1\n1 1\n3\n2 2\n3 3\n4 4\n"
+    QTest::newRow("0 is no count") << header_line() + "2\n0\n1 1\n" << values{1} << values{1};
+    QTest::newRow("second count") << header_line() + "1\n1 1\n3\n2 2\n3 3\n4 4\n"
                                   << values{1, 2, 3} << values{1, 2, 3};
     QTest::newRow("second header adds what is missing")
-        << header_line + "1\n1 1\nend\n" + header_line + "2\n2 2\n3 3\n"
+        << header_line() + "1\n1 1\nend\n" + header_line() + "2\n2 2\n3 3\n"
         << values{1, 2} << values{1, 2};
     QTest::newRow("another curve")
         << QByteArray("13 Zulauf km Sp\n1\n1 1\n") << values{} << values{};
@@ -92,12 +95,12 @@ void tst_dkl_reader::curve()
     const reading result = read(text);
     QCOMPARE(result.series[1], levels);
     QCOMPARE(result.series[11], discharges);
-    QCOMPARE(result.title, text.contains(header_line) ? "Sp_12_Auslass" : QString());
+    QCOMPARE(result.title, text.contains(header_line()) ? "Sp_12_Auslass" : QString());
 }
 
 void tst_dkl_reader::nan_is_not_zero()
 {
-    const reading result = read(header_line + "1\nnan 1\n");
+    const reading result = read(header_line() + "1\nnan 1\n");
     QCOMPARE(result.series[1].size(), 1);
     QVERIFY(qIsNaN(result.series[1][0]));
     QCOMPARE(result.series[11], values{1});
@@ -130,15 +133,15 @@ void tst_dkl_reader::header()
 void tst_dkl_reader::rejected_line_is_logged()
 {
     const log_capture log;
-    read(header_line + "1\n0 2.5\n");
+    read(header_line() + "1\n0 2.5\n");
     QCOMPARE(log_capture::warning_lines(),
              QStringList{"dkl data line could not be converted:  \"0 2.5\""});
 }
 
 void tst_dkl_reader::header_needs_three_parts()
 {
-    QCOMPARE(read(header_line + "1\n1 1\n", "Sp_12").title, QString());
-    QCOMPARE(read(header_line + "1\n1 1\n", "Sp__12_Auslass_2").title, "Sp__12_Auslass_2");
+    QCOMPARE(read(header_line() + "1\n1 1\n", "Sp_12").title, QString());
+    QCOMPARE(read(header_line() + "1\n1 1\n", "Sp__12_Auslass_2").title, "Sp__12_Auslass_2");
 }
 
 void tst_dkl_reader::cannot_be_opened()

@@ -28,7 +28,8 @@ QByteArray garbage()
 // Everything that the tool bar offers, on whatever is shown.
 void use_all_tools(const docu_driver& driver)
 {
-    for (QAction* each : driver.tools->actions())
+    const auto actions = driver.tools->actions();
+    for (QAction* each : actions)
         each->trigger();
     QTest::keyClicks(driver.field, "a");
     for (int tab = 0; tab < 3; ++tab)

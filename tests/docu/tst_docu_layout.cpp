@@ -28,7 +28,7 @@ bool is_separator_or_icon(const QAction& action, const tool& expected)
 
 QWidget* widget_at(const docu_driver& driver, int place)
 {
-    return driver.tools->widgetForAction(driver.tools->actions()[place]);
+    return driver.tools->widgetForAction(driver.tools->actions().at(place));
 }
 
 } // namespace

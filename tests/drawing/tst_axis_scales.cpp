@@ -81,7 +81,8 @@ void tst_axis_scales::unknown_names()
 {
     const plot_pair plots;
     korimo_plot& document = *plots.document;
-    for (const QString& name : QStringList{"Bottom", "TOP", "", "left", "bottom "}) {
+    const auto names = QStringList{"Bottom", "TOP", "", "left", "bottom "};
+    for (const QString& name : names) {
         document.set_x_axis_scale(plots.lower.get(), {10, 20}, name);
         plots.lower->replot();
         QCOMPARE(document.get_x_axis_scale(plots.lower.get(), "bottom"), (range{0, 1000}));

@@ -33,7 +33,7 @@ constexpr expected_curve expected_curves[] = {
     {9, 1, 13, 1, true, Qt::green, "Qhw"},  {9, 2, 23, 1, false, Qt::red, "V"},
 };
 
-const QString untouched = "untouched";
+constexpr const char* untouched = "untouched";
 
 QString axis_title(const QwtPlot& plot, QwtAxisId axis)
 {

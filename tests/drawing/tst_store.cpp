@@ -67,8 +67,10 @@ void tst_store::getters_return_copies()
     korimo_plot& document = *plots.document;
     document.kennlinien_list = QStringList{"B1   "};
     document.curve_names = QStringList{"Qb"};
-    document.get_kennlinien_list().append("more");
-    document.get_curve_names().clear();
+    auto&& elements = document.get_kennlinien_list();
+    elements.append("more");
+    auto&& names = document.get_curve_names();
+    names.clear();
     QCOMPARE(document.kennlinien_list, QStringList{"B1   "});
     QCOMPARE(document.curve_names, QStringList{"Qb"});
 }

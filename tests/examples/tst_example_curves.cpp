@@ -1,6 +1,6 @@
 #include "tests/examples/example_files.h"
 
-#include <QtTest>
+#include <QTest>
 
 using namespace example_files;
 

@@ -193,7 +193,7 @@ void tst_axis_commands::log_of_a_command()
     QFETCH(QString, log);
     window_driver driver;
     driver.open("x_K.wel", node_file(9));
-    const QwtInterval shown = ranges(driver)[axis];
+    const QwtInterval shown = ranges(driver).at(axis);
     const log_capture captured;
     trigger(driver, QTest::currentDataTag(), enter(5, 50));
     const QStringList reading{"returning min", "returning max", "min: 5", "max: 50",
@@ -214,7 +214,7 @@ void tst_axis_commands::cancel_applies_what_is_shown()
     const QList<showing> showings = trigger(driver, "action_y_achse_unten", &cancel);
     QCOMPARE(showings[0].minimum, 0.0);
     QCOMPARE(showings[0].maximum, 8.0);
-    QCOMPARE(ranges(driver)[0], QwtInterval(0, 8));
+    QCOMPARE(ranges(driver).at(0), QwtInterval(0, 8));
     QVERIFY(driver.window.shown_document()->get_y_bottom_status());
     QVERIFY(!driver.lower->axisAutoScale(QwtAxis::YLeft));
 }
@@ -227,7 +227,7 @@ void tst_axis_commands::escape_applies_what_was_entered()
         type(*box(dialog, "doubleSpinBox_2"), 12);
         QTest::keyClick(&dialog, Qt::Key_Escape);
     });
-    QCOMPARE(ranges(driver)[2], QwtInterval(0, 12));
+    QCOMPARE(ranges(driver).at(2), QwtInterval(0, 12));
 }
 
 void tst_axis_commands::values_are_rounded_and_clamped()
@@ -239,7 +239,7 @@ void tst_axis_commands::values_are_rounded_and_clamped()
     const QList<showing> showings = trigger(driver, "actiony_Achse_oben", &cancel);
     QCOMPARE(showings[0].minimum, 12.346);
     QCOMPARE(showings[0].maximum, 1e7);
-    QCOMPARE(ranges(driver)[2], QwtInterval(12.346, 1e7));
+    QCOMPARE(ranges(driver).at(2), QwtInterval(12.346, 1e7));
 }
 
 void tst_axis_commands::minimum_above_maximum()
@@ -260,11 +260,11 @@ void tst_axis_commands::lower_time_axis_takes_the_upper_along()
     window_driver driver;
     driver.open("x_K.wel", node_file(9));
     trigger(driver, "actionx_Achse_unten", enter(5, 50));
-    QCOMPARE(ranges(driver)[1], QwtInterval(5, 50));
-    QCOMPARE(ranges(driver)[3], QwtInterval(5, 50));
+    QCOMPARE(ranges(driver).at(1), QwtInterval(5, 50));
+    QCOMPARE(ranges(driver).at(3), QwtInterval(5, 50));
     trigger(driver, "actionx_Achse_oben", enter(10, 20));
-    QCOMPARE(ranges(driver)[1], QwtInterval(5, 50));
-    QCOMPARE(ranges(driver)[3], QwtInterval(10, 20));
+    QCOMPARE(ranges(driver).at(1), QwtInterval(5, 50));
+    QCOMPARE(ranges(driver).at(3), QwtInterval(10, 20));
 }
 
 void tst_axis_commands::range_outlives_a_change_of_file()
@@ -273,10 +273,10 @@ void tst_axis_commands::range_outlives_a_change_of_file()
     driver.open("a_K.wel", node_file(9));
     trigger(driver, "action_y_achse_unten", enter(5, 50));
     driver.open("b_K.wel", node_file(90));
-    QCOMPARE(ranges(driver)[0], QwtInterval(5, 50));
+    QCOMPARE(ranges(driver).at(0), QwtInterval(5, 50));
     driver.press(driver.button); // "Clear"
     driver.press(driver.button);
-    QCOMPARE(ranges(driver)[0], QwtInterval(1, 90));
+    QCOMPARE(ranges(driver).at(0), QwtInterval(1, 90));
 }
 
 void tst_axis_commands::dialog_shows_the_axis_of_the_command()
@@ -297,7 +297,7 @@ void tst_axis_commands::empty_document()
     driver.open("x.bek", "   B1" + QByteArray(32, ' ') + " 101.50  1.00        0.000\n");
     const QList<showing> showings = trigger(driver, "action_y_achse_unten", enter(5, 50));
     QCOMPARE(showings.size(), 1);
-    QCOMPARE(ranges(driver)[0], QwtInterval(5, 50));
+    QCOMPARE(ranges(driver).at(0), QwtInterval(5, 50));
 }
 
 void tst_axis_commands::set_min_max()

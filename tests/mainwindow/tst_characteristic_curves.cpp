@@ -18,7 +18,8 @@ namespace {
 QStringList titles_of(const QwtPlot* plot)
 {
     QStringList titles;
-    for (const QwtPlotCurve* curve : curves_of(plot))
+    const auto curves = curves_of(plot);
+    for (const QwtPlotCurve* curve : curves)
         titles.append(curve->title().text());
     return titles;
 }
@@ -86,9 +87,9 @@ void tst_characteristic_curves::basin_is_drawn()
     QCOMPARE(selected_row(driver), 1);
     QCOMPARE(titles_of(driver.lower), (QStringList{"Qg", "Qhw"}));
     QCOMPARE(titles_of(driver.upper), QStringList{"V"});
-    QCOMPARE(points_of(curves_of(driver.lower)[0]), (QList<QPointF>{{2, 101.5}, {9, 102}}));
-    QCOMPARE(points_of(curves_of(driver.lower)[1]), (QList<QPointF>{{0.5, 102}}));
-    QCOMPARE(points_of(curves_of(driver.upper)[0]), (QList<QPointF>{{0, 101.5}, {7.5, 102}}));
+    QCOMPARE(points_of(curves_of(driver.lower).at(0)), (QList<QPointF>{{2, 101.5}, {9, 102}}));
+    QCOMPARE(points_of(curves_of(driver.lower).at(1)), (QList<QPointF>{{0.5, 102}}));
+    QCOMPARE(points_of(curves_of(driver.upper).at(0)), (QList<QPointF>{{0, 101.5}, {7.5, 102}}));
     QCOMPARE(axes_of(driver.lower), (QStringList{"Q [m3/s]", "h [m\u00fcNHN]"}));
     QCOMPARE(axes_of(driver.upper), (QStringList{"V [Tsd. m3]", "h [m\u00fcNHN]"}));
     QCOMPARE(driver.lower->title().text(), "");
@@ -105,7 +106,7 @@ void tst_characteristic_curves::throttle_is_drawn()
     QCOMPARE(driver.button->text(), "Clear");
     QCOMPARE(driver.names->count(), 4);
     QCOMPARE(titles_of(driver.lower), QStringList{"3.5_3_Auslass3"});
-    QCOMPARE(points_of(curves_of(driver.lower)[0]), (QList<QPointF>{{3, 101.5}, {9.5, 102}}));
+    QCOMPARE(points_of(curves_of(driver.lower).at(0)), (QList<QPointF>{{3, 101.5}, {9.5, 102}}));
     QVERIFY(curves_of(driver.upper).isEmpty());
     QCOMPARE(driver.lower->title().text(), "");
     QCOMPARE(axes_of(driver.lower), (QStringList{"Qd [m3/s]", "Wo [m\u00fcNHN]"}));
@@ -220,7 +221,7 @@ void tst_characteristic_curves::names_that_contain_each_other()
     driver.open("x.bek", basin_table().replace("B2   ", "B10  "));
     driver.pick(0);
     driver.press(driver.plot_name);
-    QCOMPARE(points_of(curves_of(driver.lower)[0]), (QList<QPointF>{{1, 101.5}, {9, 102}}));
+    QCOMPARE(points_of(curves_of(driver.lower).at(0)), (QList<QPointF>{{1, 101.5}, {9, 102}}));
 }
 
 // It is listed for each block, and either entry draws all of it.
@@ -233,7 +234,7 @@ void tst_characteristic_curves::basin_in_two_blocks()
     for (const int row : {0, 3}) {
         driver.pick(row);
         driver.press(driver.plot_name);
-        QCOMPARE(points_of(curves_of(driver.lower)[0]),
+        QCOMPARE(points_of(curves_of(driver.lower).at(0)),
                  (QList<QPointF>{{1, 101.5}, {9, 102}, {4, 101.5}, {9, 102}}));
     }
 }

@@ -35,10 +35,25 @@ void fix(const window_driver& driver, const QString& axis)
     driver.upper->replot();
 }
 
-const QwtInterval fixed(5, 50);
-const QwtInterval time_of_file(0, 72);
-const QwtInterval flow_of_file(1, 90);
-const QwtInterval rain_of_file(0, 5);
+QwtInterval fixed()
+{
+    return {5, 50};
+}
+
+QwtInterval time_of_file()
+{
+    return {0, 72};
+}
+
+QwtInterval flow_of_file()
+{
+    return {1, 90};
+}
+
+QwtInterval rain_of_file()
+{
+    return {0, 5};
+}
 
 } // namespace
 
@@ -78,16 +93,19 @@ void tst_fixed_ranges::fixed_range_survives_a_change_of_file_data()
     QTest::addColumn<QwtInterval>("lower_y");
     QTest::addColumn<QwtInterval>("upper_y");
     // The lower time axis takes the upper one along.
-    QTest::newRow("lower x") << fixed << fixed << flow_of_file << rain_of_file;
-    QTest::newRow("lower y") << time_of_file << time_of_file << fixed << rain_of_file;
+    QTest::newRow("lower x") << fixed() << fixed() << flow_of_file() << rain_of_file();
+    QTest::newRow("lower y") << time_of_file() << time_of_file() << fixed() << rain_of_file();
     // What is kept is the lower y range, whichever plot's y axis was fixed.
-    QTest::newRow("upper y") << time_of_file << time_of_file << QwtInterval(1, 9) << rain_of_file;
+    QTest::newRow("upper y") << time_of_file() << time_of_file() << QwtInterval(1, 9)
+                             << rain_of_file();
     // What is kept is the lower x range, whichever plot's x axis was fixed.
-    QTest::newRow("upper x") << time_of_file << time_of_file << flow_of_file << rain_of_file;
+    QTest::newRow("upper x") << time_of_file() << time_of_file() << flow_of_file()
+                             << rain_of_file();
     // What is kept is the upper plot's top range, and it is given to its bottom axis.
-    QTest::newRow("upper second x") << time_of_file << fixed << flow_of_file << rain_of_file;
+    QTest::newRow("upper second x")
+        << time_of_file() << fixed() << flow_of_file() << rain_of_file();
     QTest::newRow("lower second x")
-        << time_of_file << QwtInterval(0, 1000) << flow_of_file << rain_of_file;
+        << time_of_file() << QwtInterval(0, 1000) << flow_of_file() << rain_of_file();
 }
 
 void tst_fixed_ranges::fixed_range_survives_a_change_of_file()
@@ -123,7 +141,7 @@ void tst_fixed_ranges::fixed_range_outlives_two_changes()
     for (const int row : {1, 0, 1}) {
         driver.select(row);
         driver.press(driver.button);
-        QCOMPARE(range(driver.lower, QwtAxis::XBottom), fixed);
+        QCOMPARE(range(driver.lower, QwtAxis::XBottom), fixed());
     }
 }
 
@@ -136,7 +154,7 @@ void tst_fixed_ranges::fixed_range_is_shown_on_the_empty_plot()
     driver.press(driver.button);
     fix(driver, "lower y");
     driver.select(1);
-    QCOMPARE(range(driver.lower, QwtAxis::YLeft), fixed);
+    QCOMPARE(range(driver.lower, QwtAxis::YLeft), fixed());
     driver.select(0); // no document: the ranges are forgotten
     driver.press(driver.button);
     QCOMPARE(range(driver.lower, QwtAxis::YLeft), QwtInterval(1, 9));
@@ -152,7 +170,7 @@ void tst_fixed_ranges::clear_forgets_fixed_ranges()
     fix(driver, "lower y");
     driver.press(driver.button);
     driver.press(driver.button);
-    QCOMPARE(range(driver.lower, QwtAxis::XBottom), time_of_file);
+    QCOMPARE(range(driver.lower, QwtAxis::XBottom), time_of_file());
     QCOMPARE(range(driver.lower, QwtAxis::YLeft), QwtInterval(1, 9));
 }
 

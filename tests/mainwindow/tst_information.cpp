@@ -34,7 +34,7 @@ QString text_of(const QString& path)
     return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
 }
 
-const QString licence_path = ":/licenses/look_and_feel/LICENSE.LGPLv3";
+constexpr const char* licence_path = ":/licenses/look_and_feel/LICENSE.LGPLv3";
 
 } // namespace
 
@@ -122,7 +122,8 @@ void tst_information::licence_unfolded()
     const modal_answer<QMessageBox> user([&](QMessageBox& box) {
         auto* const details = box.findChild<QTextEdit*>();
         QVERIFY(details && !details->isVisible());
-        for (QAbstractButton* button : box.buttons()) {
+        const auto buttons = box.buttons();
+        for (QAbstractButton* button : buttons) {
             if (box.buttonRole(button) != QMessageBox::AcceptRole)
                 QTest::mouseClick(button, Qt::LeftButton);
         }

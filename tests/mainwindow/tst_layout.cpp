@@ -169,7 +169,8 @@ void tst_layout::action_order()
 {
     const MainWindow window;
     QStringList names;
-    for (const QAction* action : window.findChildren<QAction*>(Qt::FindDirectChildrenOnly))
+    const auto actions = window.findChildren<QAction*>(Qt::FindDirectChildrenOnly);
+    for (const QAction* action : actions)
         names.append(action->objectName());
     QCOMPARE(names,
              (QStringList{"action_oeffnen", "action_speicher", "action_schliessen",
@@ -187,7 +188,8 @@ void tst_layout::menus_and_tool_bar()
     QStringList menus;
     QStringList titles;
     QList<QStringList> entries;
-    for (const QAction* action : bar->actions()) {
+    const auto actions = bar->actions();
+    for (const QAction* action : actions) {
         menus.append(action->menu()->objectName());
         titles.append(action->menu()->title());
         entries.append(names_of(action->menu()->actions()));
@@ -248,7 +250,8 @@ void tst_layout::five_warnings_and_no_more()
     const log_capture log;
     const MainWindow window;
     QStringList names;
-    for (const QString& line : log_capture::warning_lines()) {
+    const auto lines = log_capture::warning_lines();
+    for (const QString& line : lines) {
         QVERIFY2(line.startsWith("QMetaObject::connectSlotsByName: No matching signal for "),
                  qPrintable(line));
         names.append(line.section(' ', -1));
@@ -310,7 +313,8 @@ void tst_layout::dialogs()
     QList<QPointer<QWidget>> dialogs;
     {
         const MainWindow window;
-        for (QWidget* widget : QApplication::topLevelWidgets()) {
+        const auto widgets = QApplication::topLevelWidgets();
+        for (QWidget* widget : widgets) {
             if (qobject_cast<axis_dialog*>(widget) || qobject_cast<rename_dialog*>(widget))
                 dialogs.append(widget);
         }

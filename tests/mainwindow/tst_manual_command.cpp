@@ -17,7 +17,8 @@ QList<QPointer<DocuDialog>> open_manuals(const window_driver& driver, int count)
     for (int i = 0; i < count; ++i)
         driver.window.findChild<QAction*>("actionHandbuch")->trigger();
     QList<QPointer<DocuDialog>> dialogs;
-    for (DocuDialog* dialog : driver.window.findChildren<DocuDialog*>())
+    const auto children = driver.window.findChildren<DocuDialog*>();
+    for (DocuDialog* dialog : children)
         dialogs.append(dialog);
     return dialogs;
 }

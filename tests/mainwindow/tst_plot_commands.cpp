@@ -25,9 +25,14 @@ QStringList titles_of(const QwtPlot* plot)
             plot->axisTitle(QwtAxis::YLeft).text()};
 }
 
-const QStringList no_titles{"", "", ""};
-const QByteArray basin_table = "   B1                                  101.50  0.50  0.00   0.00\n"
-                               "   B2                                  101.50  0.50  0.00   0.00\n";
+QStringList no_titles()
+{
+    return {"", "", ""};
+}
+
+constexpr const char* basin_table =
+    "   B1                                  101.50  0.50  0.00   0.00\n"
+    "   B2                                  101.50  0.50  0.00   0.00\n";
 
 bool is_drawn(const window_driver& driver)
 {
@@ -84,8 +89,8 @@ void tst_plot_commands::plot_and_clear()
     QVERIFY(!is_drawn(driver));
     QVERIFY(driver.lower->itemList().isEmpty() && driver.upper->itemList().isEmpty());
     QVERIFY(!driver.lower->legend() && !driver.upper->legend());
-    QCOMPARE(titles_of(driver.lower), no_titles);
-    QCOMPARE(titles_of(driver.upper), no_titles);
+    QCOMPARE(titles_of(driver.lower), no_titles());
+    QCOMPARE(titles_of(driver.upper), no_titles());
     QCOMPARE(driver.lower->axisTitle(QwtAxis::XTop).text(), "");
     QVERIFY(!driver.lower->isAxisVisible(QwtAxis::XTop));
     driver.press(driver.button);
@@ -170,7 +175,7 @@ void tst_plot_commands::read_lists_the_names()
     QCOMPARE(driver.names->item(0)->text(), "B1   ");
     QCOMPARE(driver.names->item(1)->text(), "B2   ");
     QVERIFY(!is_drawn(driver));
-    QCOMPARE(titles_of(driver.lower), no_titles);
+    QCOMPARE(titles_of(driver.lower), no_titles());
 }
 
 void tst_plot_commands::read_twice_lists_once()
@@ -242,7 +247,7 @@ void tst_plot_commands::another_file_clears_the_plots()
     driver.select(1);
     QCOMPARE(driver.button->text(), "Read");
     QVERIFY(!is_drawn(driver));
-    QCOMPARE(titles_of(driver.lower), no_titles);
+    QCOMPARE(titles_of(driver.lower), no_titles());
     driver.press(driver.button);
     driver.select(0);
     QCOMPARE(driver.button->text(), "Plot");

@@ -19,7 +19,8 @@ namespace {
 
 void press(const rename_dialog& dialog, const char* text)
 {
-    for (auto* button : dialog.findChildren<QPushButton*>()) {
+    const auto buttons = dialog.findChildren<QPushButton*>();
+    for (auto* button : buttons) {
         if (button->text() == text)
             QTest::mouseClick(button, Qt::LeftButton);
     }
@@ -45,7 +46,8 @@ QStringList curve_titles(const window_driver& driver)
 QStringList legend_texts(const QwtPlot* plot)
 {
     QStringList texts;
-    for (const auto* label : plot->legend()->findChildren<QwtTextLabel*>())
+    const auto labels = plot->legend()->findChildren<QwtTextLabel*>();
+    for (const auto* label : labels)
         texts.append(label->text().text());
     return texts;
 }
@@ -55,8 +57,11 @@ double top_of(const QwtPlot* plot)
     return plot->axisScaleDiv(QwtAxis::YRight).upperBound();
 }
 
-const QByteArray basin_file = "0 1 2 3 4 5 6 7 8\n72 2 3 4 5 6 7 8 9\n";
-const QStringList basin_names{"Qein", "Qab", "V   ", "QG"};
+constexpr const char* basin_file = "0 1 2 3 4 5 6 7 8\n72 2 3 4 5 6 7 8 9\n";
+QStringList basin_names()
+{
+    return {"Qein", "Qab", "V   ", "QG"};
+}
 
 } // namespace
 
@@ -89,7 +94,7 @@ void tst_rename_command::names_are_offered_and_taken()
     window_driver driver;
     driver.open("x_B.wel", basin_file);
     const int count = rename(driver, [](rename_dialog& dialog) {
-        QCOMPARE(texts_of_column(dialog, 0), basin_names);
+        QCOMPARE(texts_of_column(dialog, 0), basin_names());
         QVERIFY(dialog.isModal() && !dialog.windowIcon().isNull());
         for (int row = 0; row < 4; ++row)
             fill_cell(dialog, row, 1, QString("Name %1").arg(row));
@@ -118,7 +123,7 @@ void tst_rename_command::cell_still_being_edited()
         type_into_cell(dialog, 3, 1, "open");
         press(dialog, "OK");
     });
-    QCOMPARE(curve_titles(driver)[3], "open");
+    QCOMPARE(curve_titles(driver).at(3), "open");
 }
 
 void tst_rename_command::one_name_only()
@@ -137,7 +142,7 @@ void tst_rename_command::no_name_at_all()
     window_driver driver;
     driver.open("x_B.wel", basin_file);
     rename(driver, [](rename_dialog& dialog) { press(dialog, "OK"); });
-    QCOMPARE(curve_titles(driver), basin_names);
+    QCOMPARE(curve_titles(driver), basin_names());
     rename(driver, [](rename_dialog& dialog) {
         QCOMPARE(table_of(dialog).rowCount(), 4);
         press(dialog, "Cancel");
@@ -156,7 +161,7 @@ void tst_rename_command::cancelled_names_wait()
             else
                 press(dialog, "Cancel");
         });
-        QCOMPARE(curve_titles(driver), basin_names);
+        QCOMPARE(curve_titles(driver), basin_names());
     }
     rename(driver, [](rename_dialog& dialog) {
         QCOMPARE(texts_of_column(dialog, 1), (QStringList{"", "new", "", ""}));
@@ -192,7 +197,7 @@ void tst_rename_command::more_than_four_rows()
     });
     QCOMPARE(curve_titles(driver), (QStringList{"Name 0", "Name 1", "Name 2", "Name 3"}));
     QCOMPARE(driver.window.shown_document()->get_curve_names(),
-             (QStringList{"Name 0", "Name 1", "Name 2", "Name 3"} + basin_names));
+             (QStringList{"Name 0", "Name 1", "Name 2", "Name 3"} + basin_names()));
 }
 
 void tst_rename_command::mode_without_names()
@@ -203,7 +208,7 @@ void tst_rename_command::mode_without_names()
         QCOMPARE(table_of(dialog).rowCount(), 0);
         press(dialog, "OK");
     });
-    QCOMPARE(curve_titles(driver).first(2), (QStringList{"Qein", "Qab"}));
+    QCOMPARE(curve_titles(driver).mid(0, 2), (QStringList{"Qein", "Qab"}));
 }
 
 void tst_rename_command::new_document_has_its_own_names()
@@ -216,9 +221,9 @@ void tst_rename_command::new_document_has_its_own_names()
         fill_cell(dialog, 0, 1, "new");
         press(dialog, "OK");
     });
-    QCOMPARE(curve_titles(driver)[0], "new");
+    QCOMPARE(curve_titles(driver).at(0), "new");
     driver.press(navigation_button(driver, ">"));
-    QCOMPARE(curve_titles(driver)[0], "2.5_2_Auslass2");
+    QCOMPARE(curve_titles(driver).at(0), "2.5_2_Auslass2");
 }
 
 void tst_rename_command::both_plots_are_redrawn()

@@ -60,11 +60,14 @@ QStringList texts_on_widgets()
     QStringList texts{"Read", "Clear"}; // of the button that changes its text
     for (const QWidget* parent :
          std::initializer_list<const QWidget*>{&window, &manual, &range, &names}) {
-        for (const auto* const button : parent->findChildren<QAbstractButton*>())
+        const auto buttons = parent->findChildren<QAbstractButton*>();
+        for (const auto* const button : buttons)
             texts.append(button->text().remove('&'));
-        for (const auto* const action : parent->findChildren<QAction*>())
+        const auto actions = parent->findChildren<QAction*>();
+        for (const auto* const action : actions)
             texts.append(action->text());
-        for (const auto* const tabs : parent->findChildren<QTabWidget*>()) {
+        const auto tab_widgets = parent->findChildren<QTabWidget*>();
+        for (const auto* const tabs : tab_widgets) {
             for (int i = 0; i < tabs->count(); ++i)
                 texts.append(tabs->tabText(i));
         }
@@ -77,8 +80,10 @@ QStringList menu_entries()
 {
     const MainWindow window;
     QStringList entries;
-    for (const QAction* menu : window.menuBar()->actions()) {
-        for (const QAction* entry : menu->menu()->actions())
+    const auto menus = window.menuBar()->actions();
+    for (const QAction* menu : menus) {
+        const auto actions = menu->menu()->actions();
+        for (const QAction* entry : actions)
             entries.append("menu:" + menu->text() + "[" + entry->text() + "]");
     }
     return entries;
@@ -201,7 +206,8 @@ void tst_manual::bookmarks_meet_their_headings()
     int first_page = 0;
     while (manual.pageLabel(first_page) != "1")
         ++first_page;
-    for (const auto& [title, page] : outline_of(model).mid(2)) {
+    const auto chapters = outline_of(model).mid(2);
+    for (const auto& [title, page] : chapters) {
         QVERIFY2(page >= first_page, qPrintable(title));
         QVERIFY2(bare(manual.getAllText(page).text()).contains(bare(title)), qPrintable(title));
     }

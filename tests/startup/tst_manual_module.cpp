@@ -12,14 +12,15 @@
 
 namespace {
 
-const QString module_name = KORIMO_MANUAL_MODULE;
-const QString installed_module = KORIMO_INSTALLED_MODULE;
+constexpr QLatin1StringView module_name(KORIMO_MANUAL_MODULE);
+constexpr QLatin1StringView installed_module(KORIMO_INSTALLED_MODULE);
 
 // By name: the test has no such class of its own.
 QList<QPointer<QDialog>> manuals_of(const QWidget& window)
 {
     QList<QPointer<QDialog>> manuals;
-    for (QDialog* dialog : window.findChildren<QDialog*>()) {
+    const auto dialogs = window.findChildren<QDialog*>();
+    for (QDialog* dialog : dialogs) {
         if (dialog->inherits("DocuDialog"))
             manuals.append(dialog);
     }

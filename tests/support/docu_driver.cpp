@@ -19,7 +19,8 @@ docu_driver::docu_driver()
     bookmarks = tabs->widget(0)->findChild<QTreeView*>();
     thumbnails = tabs->widget(1)->findChild<QListView*>();
     results = tabs->widget(2)->findChild<QListView*>();
-    for (auto* const line : tools->findChildren<QLineEdit*>(Qt::FindDirectChildrenOnly))
+    const auto lines = tools->findChildren<QLineEdit*>(Qt::FindDirectChildrenOnly);
+    for (auto* const line : lines)
         field = line;
     dialog->show();
     dialog->activateWindow();
@@ -46,7 +47,8 @@ QString docu_driver::write(const QByteArray& bytes) const
 
 QAction* docu_driver::action(const QString& text) const
 {
-    for (QAction* each : tools->actions()) {
+    const auto actions = tools->actions();
+    for (QAction* each : actions) {
         if (each->toolTip().startsWith(text) || each->text() == text)
             return each;
     }
@@ -55,7 +57,8 @@ QAction* docu_driver::action(const QString& text) const
 
 QString docu_driver::label() const
 {
-    for (const auto* const each : tools->findChildren<QLabel*>(Qt::FindDirectChildrenOnly))
+    const auto labels = tools->findChildren<QLabel*>(Qt::FindDirectChildrenOnly);
+    for (const auto* const each : labels)
         return each->text();
     return {};
 }

@@ -46,7 +46,8 @@ QString read_and_dump(korimo_plot& document, const QString& path)
     const log_capture log;
     document.readFile(path);
     QString text = dump(document);
-    for (const QString& line : log_capture::debug_lines())
+    const auto lines = log_capture::debug_lines();
+    for (const QString& line : lines)
         text += "log " + line + "\n";
     return text;
 }

@@ -14,7 +14,8 @@ bool is_selection_error(const shown_box& box)
 QMessageBox* shared_box()
 {
     QMessageBox* found = nullptr;
-    for (QWidget* widget : QApplication::topLevelWidgets()) {
+    const auto widgets = QApplication::topLevelWidgets();
+    for (QWidget* widget : widgets) {
         if (auto* const box = qobject_cast<QMessageBox*>(widget))
             found = box;
     }

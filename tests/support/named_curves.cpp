@@ -37,7 +37,8 @@ QByteArray named_curves(const QString& file_name)
 QList<const QwtPlotCurve*> curves_of(const QwtPlot* plot)
 {
     QList<const QwtPlotCurve*> curves;
-    for (const QwtPlotItem* item : plot->itemList(QwtPlotItem::Rtti_PlotCurve))
+    const auto items = plot->itemList(QwtPlotItem::Rtti_PlotCurve);
+    for (const QwtPlotItem* item : items)
         curves.append(dynamic_cast<const QwtPlotCurve*>(item));
     return curves;
 }

@@ -46,7 +46,8 @@ void click_any_row(QListWidget& list, QRandomGenerator& random)
 void click_any_button(QWidget& parent, QRandomGenerator& random)
 {
     QList<QPushButton*> shown;
-    for (auto* const button : parent.findChildren<QPushButton*>()) {
+    const auto buttons = parent.findChildren<QPushButton*>();
+    for (auto* const button : buttons) {
         if (button->isVisible())
             shown.append(button);
     }
@@ -57,7 +58,8 @@ void click_any_button(QWidget& parent, QRandomGenerator& random)
 void fill(const axis_dialog& dialog, QRandomGenerator& random)
 {
     static const QStringList values{"0", "0.001", "1", "5", "72", "1000.5", "10000000", "x", ""};
-    for (auto* const box : dialog.findChildren<QDoubleSpinBox*>()) {
+    const auto boxes = dialog.findChildren<QDoubleSpinBox*>();
+    for (auto* const box : boxes) {
         box->setFocus();
         if (once_in(3, random)) {
             QTest::keyClick(box, once_in(2, random) ? Qt::Key_Up : Qt::Key_Down);

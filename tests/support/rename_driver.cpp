@@ -13,7 +13,8 @@ QTableWidget& table_of(const rename_dialog& dialog)
 
 QLineEdit* open_editor(const rename_dialog& dialog)
 {
-    for (auto* const editor : table_of(dialog).viewport()->findChildren<QLineEdit*>()) {
+    const auto editors = table_of(dialog).viewport()->findChildren<QLineEdit*>();
+    for (auto* const editor : editors) {
         if (editor->isVisible()) // one that was left before may still wait for its end
             return editor;
     }

@@ -8,7 +8,8 @@
 inline void add_sample_rows(const QString& folder)
 {
     QTest::addColumn<QString>("path");
-    for (const QFileInfo& file : QDir(folder).entryInfoList(QDir::Files, QDir::Name)) {
+    const auto files = QDir(folder).entryInfoList(QDir::Files, QDir::Name);
+    for (const QFileInfo& file : files) {
         if (file.suffix() != u"expected")
             QTest::newRow(qPrintable(file.fileName())) << file.filePath();
     }
