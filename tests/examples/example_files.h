@@ -71,7 +71,8 @@ inline wel_table read_wel(const QString& path)
     table.lines = lines_of(path);
     table.heading = words_of(table.lines.value(1));
     table.units = words_of(table.lines.value(2));
-    for (const QString& line : table.lines.mid(3)) {
+    const auto lines = table.lines.mid(3);
+    for (const QString& line : lines) {
         table.rows.append(words_of(line));
     }
     return table;
@@ -92,7 +93,8 @@ inline QStringList column(const QString& name)
 inline QList<double> numbers(const QString& column_name)
 {
     QList<double> values;
-    for (const QString& text : column(column_name)) {
+    const auto texts = column(column_name);
+    for (const QString& text : texts) {
         bool ok = false;
         const double value = text.toDouble(&ok);
         values.append(ok ? value : std::nan(""));
@@ -103,7 +105,8 @@ inline QList<double> numbers(const QString& column_name)
 inline QList<double> sum_of(const QStringList& column_names)
 {
     QList<double> sum = numbers(column_names.value(0));
-    for (const QString& name : column_names.mid(1)) {
+    const auto names = column_names.mid(1);
+    for (const QString& name : names) {
         const QList<double> values = numbers(name);
         std::transform(sum.begin(), sum.end(), values.begin(), sum.begin(), std::plus<>());
     }

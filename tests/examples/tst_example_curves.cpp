@@ -25,7 +25,8 @@ QList<basin_point> read_basin(const QString& key)
 {
     QList<basin_point> points;
     QString current;
-    for (const QString& line : lines_of(example("Erlenbach.bek"))) {
+    const auto lines = lines_of(example("Erlenbach.bek"));
+    for (const QString& line : lines) {
         const QString found = line.mid(3, 5).trimmed();
         current = found.isEmpty() ? current : found;
         if (current == key) {
@@ -62,7 +63,7 @@ table_value look_up(const QList<basin_point>& points, double volume, double basi
 QString name_of_curve(const QString& header)
 {
     QStringList words = words_of(header);
-    for (const QString dropped : {"GOK", "=", "GW", "müNHN"}) {
+    for (const char* const dropped : {"GOK", "=", "GW", "müNHN"}) {
         words.removeAll(dropped);
     }
     return words.value(3) + '_' + words.value(0) + '_' + words.value(1);
@@ -78,7 +79,8 @@ QList<curve_point> read_curve(const QString& number_and_name)
     const qsizetype first = header - lines.begin() + 3; // after the heading and the count
     const qsizetype count = lines.value(first - 1).toInt();
     QList<curve_point> points;
-    for (const QString& line : lines.mid(first, count)) {
+    const auto shown = lines.mid(first, count);
+    for (const QString& line : shown) {
         points.append({words_of(line).value(0).toDouble(), words_of(line).value(1).toDouble()});
     }
     return points;
@@ -145,7 +147,8 @@ void tst_example_curves::basin_table_lists()
 {
     QStringList listed;
     QStringList headings;
-    for (const QString& line : lines_of(example("Erlenbach.bek"))) {
+    const auto lines = lines_of(example("Erlenbach.bek"));
+    for (const QString& line : lines) {
         const bool starts =
             line.mid(3, 1).toUpper() == "B" && !line.mid(37, 26).trimmed().isEmpty();
         if (starts) {
@@ -161,7 +164,8 @@ void tst_example_curves::spillway_column_may_be_blank()
 {
     QHash<QString, QString> pattern;
     QString current;
-    for (const QString& line : lines_of(example("Erlenbach.bek"))) {
+    const auto lines = lines_of(example("Erlenbach.bek"));
+    for (const QString& line : lines) {
         const QString found = line.mid(3, 5).trimmed();
         current = found.isEmpty() ? current : found;
         pattern[current] += line.mid(50, 6).trimmed().isEmpty() ? '-' : 'x';
@@ -211,7 +215,8 @@ void tst_example_curves::curve_agrees_with_basin_table()
     const QList<curve_point> read = read_curve(curve);
     QCOMPARE(read.size(), points);
     int shared = 0;
-    for (const basin_point& row : read_basin(key)) {
+    const auto rows = read_basin(key);
+    for (const basin_point& row : rows) {
         const auto same = [&](curve_point p) { return std::abs(p.water - row.water) < 0.0005; };
         const auto found = std::find_if(read.begin(), read.end(), same);
         if (found != read.end()) {

@@ -50,7 +50,8 @@ void tst_examples::initTestCase()
 void tst_examples::remade_byte_for_byte_data()
 {
     QTest::addColumn<QString>("name");
-    for (const QString& name : QDir(made_.path()).entryList(QDir::Files)) {
+    const auto names = QDir(made_.path()).entryList(QDir::Files);
+    for (const QString& name : names) {
         QTest::newRow(qPrintable(name)) << name;
     }
 }
@@ -128,7 +129,7 @@ void tst_examples::parts_make_the_whole_data()
     QTest::addColumn<QStringList>("whole");
     QTest::addColumn<QStringList>("parts");
     using names = QStringList;
-    for (const QString area : {"K1", "N1"}) {
+    for (const QString& area : {QString("K1"), QString("N1")}) {
         QTest::addRow("%s rain", qPrintable(area))
             << names{area + ".hN"} << names{area + ".hV", area + ".heff"};
         QTest::addRow("%s base flow", qPrintable(area))

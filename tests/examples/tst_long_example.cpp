@@ -67,7 +67,8 @@ void tst_long_example::has_the_rows_and_columns()
     QCOMPARE(table.rows.size(), 3001);
     QCOMPARE(table.rows[12][0], QString("1.00"));
     QCOMPARE(table.rows[3000][0], QString("250.00"));
-    for (const QString& line : table.lines.mid(3)) {
+    const auto lines = table.lines.mid(3);
+    for (const QString& line : lines) {
         QCOMPARE(line.size(), width);
         QCOMPARE(words_of(line).size(), columns);
     }
@@ -97,7 +98,8 @@ void tst_long_example::storms_return()
     int storms = 0;
     double rain = 0.0;
     int dry_rows = 1000;
-    for (const QStringList& row : read_wel(path("year.wel")).rows) {
+    const auto rows = read_wel(path("year.wel")).rows;
+    for (const QStringList& row : rows) {
         const double fallen = row[1].toDouble();
         storms += fallen > 0.0 && dry_rows > 288 ? 1 : 0;
         dry_rows = fallen > 0.0 ? 0 : dry_rows + 1;
