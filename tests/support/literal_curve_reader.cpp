@@ -42,15 +42,12 @@ void take_point(const QString& line, literal_reading& result)
 
 } // namespace
 
-literal_reading read_bek_literally(const QString& path, const QString& item)
+literal_reading read_bek_literally(QIODevice& text, const QString& item)
 {
     literal_reading result;
     result.plot_mode = 9;
     bool in_block = false;
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly | QIODevice::Text))
-        return result;
-    QTextStream stream(&file);
+    QTextStream stream(&text);
     while (!stream.atEnd()) {
         const QString line = stream.readLine();
         const QString identifier = line.mid(3, 5);
@@ -68,7 +65,7 @@ literal_reading read_bek_literally(const QString& path, const QString& item)
     return result;
 }
 
-literal_reading read_dkl_literally(const QString& path, const QString& item)
+literal_reading read_dkl_literally(QIODevice& text, const QString& item)
 {
     literal_reading result;
     result.plot_mode = 8;
@@ -77,10 +74,7 @@ literal_reading read_dkl_literally(const QString& path, const QString& item)
     int points_expected = 0;
     bool found = false;
     bool in_block = false;
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly | QIODevice::Text))
-        return result;
-    QTextStream stream(&file);
+    QTextStream stream(&text);
     while (!stream.atEnd()) {
         const QString line = stream.readLine();
         if (line.contains("Wo") && !line.contains("Wo>"))
@@ -110,5 +104,25 @@ literal_reading read_dkl_literally(const QString& path, const QString& item)
             in_block = false;
         }
     }
+    return result;
+}
+
+literal_reading read_bek_literally(const QString& path, const QString& item)
+{
+    literal_reading result;
+    result.plot_mode = 9;
+    QFile file(path);
+    if (file.open(QIODevice::ReadOnly | QIODevice::Text))
+        result = read_bek_literally(file, item);
+    return result;
+}
+
+literal_reading read_dkl_literally(const QString& path, const QString& item)
+{
+    literal_reading result;
+    result.plot_mode = 8;
+    QFile file(path);
+    if (file.open(QIODevice::ReadOnly | QIODevice::Text))
+        result = read_dkl_literally(file, item);
     return result;
 }

@@ -108,15 +108,12 @@ void take_dkl_line(const QString& line, literal_reading& result)
 
 } // namespace
 
-literal_reading read_literally(const QString& path)
+literal_reading read_literally(QIODevice& text, const QString& path)
 {
     literal_reading result;
     const QString name = path.mid(path.lastIndexOf('/') + 1);
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly | QIODevice::Text))
-        return result;
     const QString ending = path.toUpper().right(3);
-    QTextStream stream(&file);
+    QTextStream stream(&text);
     while (!stream.atEnd()) {
         const QString line = stream.readLine();
         if (ending == "BEK") {
@@ -129,4 +126,12 @@ literal_reading read_literally(const QString& path)
         }
     }
     return result;
+}
+
+literal_reading read_literally(const QString& path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly | QIODevice::Text))
+        return {};
+    return read_literally(file, path);
 }

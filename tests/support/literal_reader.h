@@ -4,6 +4,8 @@
 
 #include <QStringList>
 
+class QIODevice;
+
 /// What reading one file must give, worked out step by step from the rules of the formats with
 /// nothing but Qt's own text stream, splitting and number conversion. It shares no code with the
 /// readers: it is what they are measured against.
@@ -17,3 +19,6 @@ struct literal_reading
 };
 
 literal_reading read_literally(const QString& path);
+
+/// The same for a device, which must be open in text mode; `path` is where the file would lie.
+literal_reading read_literally(QIODevice& text, const QString& path);
