@@ -4,20 +4,37 @@
 build_dir=$project_dir/build
 
 # Objects of another compiler, or of this checkout at another place, do not mix with new ones.
-clear_foreign_build() {
-  local stamp
+# clear_if_foreign STAMP FOLDER…: the stamp tells where the folders were built.
+clear_if_foreign() {
+  local file=$1 stamp
+  shift
   stamp=$(printf '%s\n' "$(environment_id)" "$project_dir")
-  [[ -f $build_dir/.environment && $(<"$build_dir/.environment") == "$stamp" ]] && return
-  rm -rf -- "${build_dir:?}"/{release,dev,loopback,.examples}
-  printf '%s\n' "$stamp" >"$build_dir/.environment"
+  [[ -f $file && $(<"$file") == "$stamp" ]] && return
+  rm -rf -- "$@"
+  printf '%s\n' "$stamp" >"$file"
+}
+
+clear_foreign_build() {
+  clear_if_foreign "$build_dir/.environment" "${build_dir:?}"/{release,dev,loopback,.examples}
+}
+
+make_build_dir() {
+  mkdir -p -- "$build_dir" 2>/dev/null || die "$build_dir cannot be written" \
+    "Use a checkout that belongs to you"
 }
 
 # Ends with release_lock; until then the build folders are ours.
 occupy_build_dir() {
-  mkdir -p -- "$build_dir" 2>/dev/null || die "$build_dir cannot be written" \
-    "Use a checkout that belongs to you"
+  make_build_dir
   take_lock "$build_dir/.lock" "building or testing in this checkout"
   clear_foreign_build
+}
+
+# occupy_fuzz_dir ENVIRONMENT: fuzzing takes long and is built apart, so it does not keep others out.
+occupy_fuzz_dir() {
+  make_build_dir
+  take_lock "$build_dir/.fuzz_lock" "fuzzing in this checkout"
+  environment=$1 clear_if_foreign "$build_dir/.fuzz_environment" "${build_dir:?}/fuzz"
 }
 
 # Ninja calls CMake again by itself when one of its files changes.

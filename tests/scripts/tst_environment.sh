@@ -7,8 +7,12 @@ trap 'rm -rf -- "$scratch"' EXIT
 export XDG_CACHE_HOME=$scratch/cache
 # shellcheck source=script/lib/environment.sh
 source "$here/../../script/lib/environment.sh"
+# shellcheck source=script/lib/extra_rootfs.sh
+source "$here/../../script/lib/extra_rootfs.sh"
 # shellcheck source=script/lib/build.sh
 source "$here/../../script/lib/build.sh"
+# shellcheck source=script/lib/table.sh
+source "$here/../../script/lib/table.sh"
 # shellcheck source=script/lib/display.sh
 source "$here/../../script/lib/display.sh"
 prepare_cache_dir
@@ -51,6 +55,33 @@ test_outdated_trees_wait_for_their_users() {
   expect "no longer in use" "$(succeeds test -d "$cache_dir/rootfs-used")" no
 }
 
+# shellcheck disable=SC2034 # they are used by name
+test_further_environments() {
+  local one_packages=(a b) two_packages=(a c) one_commands=(no-such-command) one=left
+  expect "another list" "$(succeeds test "$(extra_key one)" = "$(extra_key two)")" no
+  expect "another first recipe" \
+    "$(before=$(extra_key one); rootfs_key() { echo other; }
+      succeeds test "$(extra_key one)" = "$before")" no
+  expect "its folder" "$(extra_dir one)" "$cache_dir/one-$(extra_key one)"
+  expect "no way to have it" \
+    "$(PLOT_KORIMO_ENVIRONMENT=inside environment=native succeeds prepare_extra one)" no
+  one_commands=(bash)
+  environment=native prepare_extra one
+  expect "on the system itself" "$one" native
+}
+
+# shellcheck disable=SC2034 # they are used by name
+test_outdated_further_environments_go() {
+  local one_packages=(a) use
+  mkdir -p "$cache_dir"/{one-used,one-idle,two-idle} "$(extra_dir one)"
+  exec {use}>>"$cache_dir/use-used.lock"
+  flock --shared "$use"
+  remove_outdated_extra one 2>/dev/null
+  exec {use}>&-
+  expect "what is left" "$(cd "$cache_dir" && echo {one,two,new}-*)" \
+    "$(printf '%s\n' "one-$(extra_key one)" one-used | sort | paste -sd' ') two-idle new-*"
+}
+
 test_a_changed_list_asks_for_a_new_tree() {
   local before project_dir=$scratch/project
   mkdir -p "$project_dir"/script/{lib,packages}
@@ -86,6 +117,24 @@ test_foreign_builds_are_cleared() {
   environment=/elsewhere/rootfs-1
   clear_foreign_build
   expect "another environment" "$(succeeds test -d "$build_dir/release")" no
+}
+
+test_fuzzers_are_built_apart() {
+  local build_dir=$scratch/build PLOT_KORIMO_ENVIRONMENT=
+  mkdir -p "$build_dir/fuzz" "$build_dir/release"
+  occupy_fuzz_dir /cache/tools-1
+  release_lock
+  expect "unknown origin" "$(succeeds test -d "$build_dir/fuzz")" no
+  expect "of the others" "$(succeeds test -d "$build_dir/release")" yes
+  mkdir "$build_dir/fuzz"
+  occupy_fuzz_dir /cache/tools-1
+  release_lock
+  expect "same origin" "$(succeeds test -d "$build_dir/fuzz")" yes
+}
+
+test_tables() {
+  expect "columns" "$(printf 'a\tlong\tc\nlonger\tb\td\n' | aligned | paste -sd'|')" \
+    "a       long  c|longer  b     d"
 }
 
 test_displays() {
