@@ -2,6 +2,7 @@
 
 option(KORIMO_WARNINGS_ARE_ERRORS "Stop at the first compiler warning" OFF)
 option(KORIMO_SANITIZE "Build with the address and undefined-behaviour sanitizers" OFF)
+option(KORIMO_FUZZERS "Build the fuzzers, with the same sanitizers (needs clang)" OFF)
 
 add_library(korimo_build_options INTERFACE)
 target_compile_definitions(korimo_build_options INTERFACE
@@ -17,8 +18,14 @@ else()
     $<$<BOOL:${KORIMO_WARNINGS_ARE_ERRORS}>:-Werror>)
 endif()
 
-if(KORIMO_SANITIZE)
+if(KORIMO_SANITIZE OR KORIMO_FUZZERS)
   set(_sanitizers -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
   target_compile_options(korimo_build_options INTERFACE ${_sanitizers})
   target_link_options(korimo_build_options INTERFACE ${_sanitizers})
+endif()
+
+# Counts how often each place in the code is reached; only a fuzzer has the function that looks.
+if(KORIMO_FUZZERS)
+  target_compile_options(korimo_build_options INTERFACE -fsanitize=fuzzer-no-link)
+  target_link_options(korimo_build_options INTERFACE -fsanitize=fuzzer-no-link)
 endif()

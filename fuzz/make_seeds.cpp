@@ -1,0 +1,100 @@
+// Writes the inputs that the fuzzers start from: make_seeds FOLDER makes a folder for each target.
+#include "tests/support/random_files.h"
+
+#include <QDir>
+#include <QFile>
+#include <QRandomGenerator>
+
+#include <cstdlib>
+
+namespace {
+
+constexpr qsizetype longest = 4000;
+
+QByteArray bytes_of(const QString& path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        qFatal("cannot read %s", qPrintable(path));
+    return file.readAll();
+}
+
+class seed_folder
+{
+public:
+    explicit seed_folder(const QString& path)
+        : folder(path)
+    {
+        if (!QDir().mkpath(path))
+            qFatal("cannot make %s", qPrintable(path));
+    }
+
+    void add(const QByteArray& seed)
+    {
+        QFile file(folder.filePath(QString::number(count++)));
+        if (!file.open(QIODevice::WriteOnly) || file.write(seed) != seed.size())
+            qFatal("cannot write %s", qPrintable(file.fileName()));
+    }
+
+    // With every choice that the first byte is for.
+    void add_all(const QByteArray& file, int choices)
+    {
+        for (int choice = 0; choice < choices; ++choice)
+            add(static_cast<char>(choice) + file.first(std::min(file.size(), longest)));
+    }
+
+private:
+    QDir folder;
+    int count = 0;
+};
+
+// The files of the examples and of the tests that end so, and made-up ones.
+QByteArrayList files_of_kind(const QString& ending, int made_up)
+{
+    QByteArrayList files;
+    for (const char* folder :
+         {EXAMPLES_DIR, TESTS_DIR "/wel/samples", TESTS_DIR "/names/samples"}) {
+        for (const QFileInfo& file : QDir(folder).entryInfoList({"*." + ending}, QDir::Files))
+            files.append(bytes_of(file.filePath()));
+    }
+    if (files.isEmpty())
+        qFatal("no sample file ends with %s", qPrintable(ending));
+    QRandomGenerator random(20264);
+    for (int i = 0; i < made_up; ++i)
+        files.append(random_file("x." + ending, random));
+    return files;
+}
+
+struct seed_rule
+{
+    const char* target;
+    const char* ending;
+    int made_up;
+    int choices;
+};
+
+constexpr seed_rule rules[] = {
+    {"fuzz_wel", "wel", 200, 8},   {"fuzz_names", "bek", 200, 2}, {"fuzz_names", "dkl", 200, 2},
+    {"fuzz_bek", "bek", 300, 3},   {"fuzz_dkl", "dkl", 300, 3},   {"fuzz_lines", "wel", 100, 2},
+    {"fuzz_lines", "dkl", 100, 2},
+};
+
+} // namespace
+
+int main(int count, char** arguments)
+{
+    if (count != 2)
+        return EXIT_FAILURE;
+    const QDir all(arguments[1]);
+    for (const seed_rule& rule : rules) {
+        seed_folder seeds(all.filePath(QString(rule.target) + "/" + rule.ending));
+        for (const QByteArray& file : files_of_kind(rule.ending, rule.made_up))
+            seeds.add_all(file, rule.choices);
+    }
+    seed_folder numbers(all.filePath("fuzz_number"));
+    for (const QByteArray& file : files_of_kind("wel", 200)) {
+        for (const QByteArray& line : file.first(std::min(file.size(), longest)).split('\n'))
+            numbers.add(line);
+    }
+    return EXIT_SUCCESS;
+}
