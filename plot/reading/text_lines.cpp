@@ -70,7 +70,8 @@ void text_lines::append(QByteArrayView bytes)
 {
     if (transcoder) {
         const QString text = transcoder->decode(bytes);
-        buffer.append(text.toUtf8());
+        const QByteArray utf8 = encoder.encode(text);
+        buffer.append(utf8);
     } else {
         buffer.append(bytes);
     }

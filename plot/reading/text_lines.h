@@ -33,11 +33,12 @@ private:
     QByteArrayView without_returns(QByteArrayView line);
 
     QIODevice& device;
-    QByteArray block;                         // what was read last
-    QByteArray buffer;                        // text that was read and not yet given out
-    qsizetype start = 0;                      // where the next line starts in it
-    QByteArray rewritten;                     // a line that had to be changed
-    std::optional<QStringDecoder> transcoder; // set for UTF-16 and UTF-32 only
+    QByteArray block;                             // what was read last
+    QByteArray buffer;                            // text that was read and not yet given out
+    qsizetype start = 0;                          // where the next line starts in it
+    QByteArray rewritten;                         // a line that had to be changed
+    std::optional<QStringDecoder> transcoder;     // set for UTF-16 and UTF-32 only
+    QStringEncoder encoder{QStringEncoder::Utf8}; // keeps half a pair until the next block
     bool at_end = false;
     bool file_is_empty = false;
     bool gave_a_line = false;

@@ -49,6 +49,7 @@ private slots:
     void lines_data();
     void lines();
     void lines_longer_than_a_block();
+    void pair_of_surrogates_across_blocks();
     void random_bytes_as_a_text_stream();
 };
 
@@ -112,6 +113,17 @@ void tst_text_lines::lines_longer_than_a_block()
     const QByteArray longest(3'000'001, 'x');
     const QByteArray bytes = longest + "\n1\n" + longest + "\r\n" + longest;
     QCOMPARE(our_lines(bytes), (QStringList{longest, "1", longest, longest}));
+}
+
+// The first block ends behind the first half of the pair.
+void tst_text_lines::pair_of_surrogates_across_blocks()
+{
+    constexpr qsizetype block_size = 65'536;
+    const QByteArray pair("\x3D\xD8\xA7\xDC", 4);
+    const QByteArray line = QByteArray("x\0", 2).repeated((block_size - 4) / 2) + pair;
+    const QByteArray bytes = "\xFF\xFE" + line;
+    QCOMPARE(our_lines(bytes).value(0).last(3), u"x\U0001F4A7"_s);
+    QCOMPARE(our_lines(bytes), stream_lines(bytes));
 }
 
 void tst_text_lines::random_bytes_as_a_text_stream()
