@@ -34,9 +34,10 @@ export ASAN_OPTIONS=malloc_context_size=1:max_malloc_fill_size=64:quarantine_siz
 options=(-dict="$project_dir/fuzz/words.dict" -timeout=20 -rss_limit_mb=2048 -print_final_stats=1)
 
 build() {
-  configure_and_build fuzz
+  configure_and_build fuzz || return
   rm -rf -- "$work/seeds"
-  "$programs/make_seeds" "$work/seeds"
+  "$programs/make_seeds" "$work/seeds" || return
+  cp -R -- "$project_dir"/fuzz/samples/. "$work/seeds"
 }
 
 # What an earlier call found is tried first, until it is removed.
