@@ -33,15 +33,20 @@ QPixmap stacked(const QPixmap& upper, const QPixmap& lower)
     return both;
 }
 
-// At once and whole, so that no other viewer that saves or shows the same picture meets half of it.
-// Where that is impossible (a device, a very long name, a folder that is closed), as it comes.
-void save(const QPixmap& picture, const QString& file)
+// Where a FIFO or a device stands, writing might wait for ever. A NUL, which a curve's name may
+// have, would end the path before the ".png": the data file itself may be of that name.
+bool may_be_written(const QString& file)
 {
     const QFileInfo place(file);
+    return !file.contains(QChar(u'\0')) && (place.isFile() || !place.exists());
+}
+
+// At once and whole, so that no other viewer that saves or shows the same picture meets half of it.
+// Where that is impossible (a very long name, a closed folder), as it comes.
+void save(const QPixmap& picture, const QString& file)
+{
     QSaveFile whole(file);
-    const bool can_be_replaced = place.isFile() || !place.exists();
-    if (!can_be_replaced || !whole.open(QIODevice::WriteOnly) || !picture.save(&whole, "PNG") ||
-        !whole.commit())
+    if (!whole.open(QIODevice::WriteOnly) || !picture.save(&whole, "PNG") || !whole.commit())
         picture.save(file, "PNG");
 }
 
@@ -64,7 +69,8 @@ void MainWindow::on_action_speicher_triggered()
     const QString file = two_step_mode ? image_file_of_curve(path, selected_item_name)
                                        : image_file_of_hydrograph(path);
     // Deliberate: the box names the file that was meant, whatever became of it.
-    save(picture, file);
+    if (may_be_written(file))
+        save(picture, file);
     QMessageBox box;
     box.setWindowIcon(application_icon());
     box.setText(QStringLiteral("File saved to ") + file);

@@ -1,0 +1,194 @@
+#include "plot/korimo_plot.h"
+#include "tests/support/modal_boxes.h"
+#include "tests/support/named_curves.h"
+#include "tests/support/write_file.h"
+
+#include <qwt_plot.h>
+
+#include <QAction>
+#include <QDir>
+#include <QDragEnterEvent>
+#include <QDropEvent>
+#include <QImage>
+#include <QListWidget>
+#include <QMimeData>
+#include <QPushButton>
+#include <QTest>
+#include <QUrl>
+
+#include <fcntl.h>
+#include <unistd.h>
+
+namespace {
+
+using namespace Qt::StringLiterals;
+
+void drop(MainWindow& window, const QUrl& url)
+{
+    QMimeData data;
+    data.setUrls({url});
+    QDragEnterEvent enter(QPoint(9, 9), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(&window, &enter);
+    QDropEvent event(QPointF(9, 9), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(&window, &event);
+}
+
+// The text of the box that saving shows, if it is the only one.
+QString save(const window_driver& driver)
+{
+    const modal_boxes boxes;
+    driver.window.findChild<QAction*>("action_speicher")->trigger();
+    return boxes.shown().size() == 1 ? boxes.shown()[0].text : QString();
+}
+
+// Writes a file whose name is bytes that are no UTF-8, which no text of Qt can stand for.
+void write_raw(const QByteArray& path, const QByteArray& bytes)
+{
+    const int descriptor = ::open(path.constData(), O_WRONLY | O_CREAT, 0600);
+    if (descriptor == -1 || ::write(descriptor, bytes.constData(),
+                                    static_cast<std::size_t>(bytes.size())) != bytes.size())
+        qFatal("cannot write a temporary file");
+    ::close(descriptor);
+}
+
+} // namespace
+
+/// File names that nobody expects: the file is dropped, drawn, and its picture saved beside it.
+class tst_odd_names : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void dropped_drawn_and_saved_data();
+    void dropped_drawn_and_saved();
+    void no_room_for_the_ending_of_the_picture();
+    void bytes_that_are_no_text();
+    void curve_named_like_its_file();
+    void odd_names_of_curves_data();
+    void odd_names_of_curves();
+};
+
+void tst_odd_names::dropped_drawn_and_saved_data()
+{
+    QTest::addColumn<QString>("name"); // without the ending
+    QTest::newRow("blanks") << u" a  b _K"_s;
+    QTest::newRow("umlauts") << u"Döbeln Süd ß_K"_s;
+    QTest::newRow("umlauts of two characters") << u"Do\u0308beln_K"_s;
+    QTest::newRow("beyond two bytes") << u"\U0001F4A7\u65E5_K"_s;
+    QTest::newRow("right to left") << u"\u202E\u05D0_K"_s;
+    QTest::newRow("quotes") << u"\"a'b`c_K"_s;
+    QTest::newRow("new lines") << u"a\nb\r\nc_K"_s;
+    QTest::newRow("controls") << u"a\t\x1B[31m\x7F_K"_s;
+    QTest::newRow("backslashes") << u"a\\b\\_K"_s;
+    QTest::newRow("parts of URLs") << u"a#b?c&d=%41%_K"_s;
+    QTest::newRow("a scheme") << u"http:_K"_s;
+    QTest::newRow("placeholders") << u"%1%s%n_K"_s;
+    QTest::newRow("mark-up") << u"<b>a&amp;_K"_s;
+    QTest::newRow("patterns") << u"*[a]?{b}_K"_s;
+    QTest::newRow("options") << u"--help _K"_s;
+    QTest::newRow("dots") << u"..._K.."_s;
+    QTest::newRow("endings") << u"a.png.wel.bek_K"_s;
+    QTest::newRow("a resource") << u":_K"_s;
+    QTest::newRow("255 bytes") << QString(249, 'x') + "_K";
+    QTest::newRow("255 bytes of umlauts") << QString(124, u'ä') + "x_K";
+}
+
+void tst_odd_names::dropped_drawn_and_saved()
+{
+    QFETCH(QString, name);
+    window_driver driver;
+    const QString path = driver.folder.path() + "/" + name + ".wel";
+    write_file(path, node_file(9));
+    drop(driver.window, QUrl::fromLocalFile(path));
+    QCOMPARE(driver.files(), QStringList{path});
+    driver.select(0);
+    {
+        const modal_boxes boxes;
+        driver.press(driver.button);
+        QVERIFY(boxes.shown().isEmpty());
+    }
+    QCOMPARE(driver.window.shown_document()->series[12].size(), 2);
+    const QString picture = driver.folder.path() + "/" + name + ".png";
+    QCOMPARE(save(driver), "File saved to " + picture);
+    QCOMPARE(QImage(picture, "PNG").size(), QSize(681, 581));
+    QCOMPARE(QDir(driver.folder.path()).entryList(QDir::Files | QDir::Hidden).size(), 2);
+}
+
+// Without a dot the whole name stays, and 259 bytes are no name.
+void tst_odd_names::no_room_for_the_ending_of_the_picture()
+{
+    window_driver driver;
+    const QString path = driver.open(QString(250, 'x') + "_Kwel", node_file(9));
+    QCOMPARE(driver.window.shown_document()->series[12].size(), 2);
+    QCOMPARE(save(driver), "File saved to " + path + ".png");
+    QCOMPARE(QDir(driver.folder.path()).entryList(QDir::Files | QDir::Hidden).size(), 1);
+}
+
+// Such a file can be listed and dropped, but not opened.
+void tst_odd_names::bytes_that_are_no_text()
+{
+    window_driver driver;
+    const QByteArray folder = driver.folder.path().toUtf8() + '/';
+    write_raw(folder + "a\xFF_K.wel", node_file(9));
+    drop(driver.window, QUrl::fromEncoded("file://" + folder + "a%FF_K.wel"));
+    driver.list->addItem(QFile::decodeName(folder + "a\xFF_K.wel"));
+    for (int row = 0; row < driver.list->count(); ++row) {
+        driver.select(row);
+        const modal_boxes boxes;
+        driver.press(driver.button);
+        QCOMPARE(boxes.shown().size(), 2);
+        QCOMPARE(boxes.shown()[0].text, "Could not open or read file");
+        save(driver);
+    }
+    driver.open("good_K.wel", node_file(9));
+    QCOMPARE(driver.window.shown_document()->series[12].size(), 2);
+}
+
+// Up to a NUL, the name of the curve is that of the file.
+void tst_odd_names::curve_named_like_its_file()
+{
+    window_driver driver;
+    const QByteArray text = " 1 x.dkl" + QByteArray(1, '\0') + " km 1.5\n Wo Qd\n 1\n 101.5 1\n";
+    const QString path = driver.open("1.5_1_x.dkl", text);
+    driver.pick(0);
+    driver.press(driver.plot_name);
+    save(driver);
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QCOMPARE(file.readAll(), text);
+}
+
+void tst_odd_names::odd_names_of_curves_data()
+{
+    QTest::addColumn<QByteArray>("word");
+    QTest::addColumn<bool>("saved"); // in the folder of the file
+    QTest::newRow("umlauts") << "Süd"_ba << true;
+    QTest::newRow("no UTF-8") << "a\xFF"_ba << true;
+    QTest::newRow("quotes") << "\"'"_ba << true;
+    QTest::newRow("controls") << "\t\x1B"_ba << true;
+    QTest::newRow("a NUL") << QByteArray("a\0b", 3) << false;
+    QTest::newRow("a folder") << "a/b"_ba << false;
+    QTest::newRow("10,000 characters") << QByteArray(10'000, 'x') << false;
+}
+
+// The name of a curve becomes that of the picture; some cannot.
+void tst_odd_names::odd_names_of_curves()
+{
+    QFETCH(QByteArray, word);
+    QFETCH(bool, saved);
+    window_driver driver;
+    driver.open("x.dkl", " 1 " + word + " km 1.5\n Wo Qd\n 1\n 101.5 1\n");
+    driver.pick(0);
+    const QString name = driver.names->item(0)->text();
+    QCOMPARE(name, "1.5_1_" + QString::fromUtf8(word));
+    driver.press(driver.plot_name);
+    QCOMPARE(drawn_number(driver), 1);
+    const QString picture = driver.folder.path() + "/" + name + ".png";
+    QCOMPARE(save(driver), "File saved to " + picture);
+    QCOMPARE(QFile::exists(picture), saved);
+    QCOMPARE(QDir(driver.folder.path()).entryList(QDir::Files | QDir::Hidden).size(),
+             saved ? 2 : 1);
+}
+
+QTEST_MAIN(tst_odd_names)
+#include "tst_odd_names.moc"

@@ -1,0 +1,152 @@
+#include "plot/korimo_plot.h"
+#include "tests/support/limits.h"
+#include "tests/support/modal_boxes.h"
+#include "tests/support/window_driver.h"
+#include "tests/support/write_file.h"
+
+#include <QAction>
+#include <QDir>
+#include <QFileInfo>
+#include <QImage>
+#include <QPushButton>
+#include <QTest>
+
+#include <sys/stat.h>
+
+#include <csignal>
+
+namespace {
+
+// A window with a file drawn, and its picture.
+struct drawn_window
+{
+    drawn_window() { driver.open("x_K.wel", node_file(9)); }
+
+    // Saves, and answers whether the box names the file that was meant and is the only one.
+    bool save() const
+    {
+        const modal_boxes boxes;
+        driver.window.findChild<QAction*>("action_speicher")->trigger();
+        return boxes.shown().size() == 1 && boxes.shown()[0].text == "File saved to " + picture;
+    }
+
+    // Whether a picture can be saved as ever, once what was in the way is gone.
+    bool saves_again() const
+    {
+        QFile::remove(picture);
+        return save() && QImage(picture, "PNG").size() == QSize(681, 581);
+    }
+
+    window_driver driver;
+    QString picture = driver.folder.filePath("x_K.png");
+};
+
+} // namespace
+
+/// A picture that cannot be written, or not to its end. The box names the file all the same.
+class tst_picture_faults : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void full_device();
+    void no_more_room_data();
+    void no_more_room();
+    void forbidden_folder();
+    void forbidden_picture();
+    void folder_that_is_gone();
+    void fifo_without_a_reader();
+    void dangling_link();
+};
+
+void tst_picture_faults::full_device()
+{
+    const drawn_window window;
+    QVERIFY(QFile::link("/dev/full", window.picture));
+    QVERIFY(window.save());
+    QVERIFY(QFile::exists("/dev/full"));
+    QVERIFY(window.saves_again());
+}
+
+void tst_picture_faults::no_more_room_data()
+{
+    QTest::addColumn<int>("bytes");
+    for (const int bytes : {0, 1, 100, 4096})
+        QTest::addRow("%d bytes", bytes) << bytes;
+}
+
+// As on a disk that is full.
+void tst_picture_faults::no_more_room()
+{
+    QFETCH(int, bytes);
+    const drawn_window window;
+    const auto before = std::signal(SIGXFSZ, SIG_IGN);
+    {
+        const lower_limit full(RLIMIT_FSIZE, static_cast<rlim_t>(bytes));
+        QVERIFY(window.save());
+    }
+    std::signal(SIGXFSZ, before);
+    QVERIFY(QFileInfo(window.picture).size() <= bytes);
+    QVERIFY(window.saves_again());
+}
+
+void tst_picture_faults::forbidden_folder()
+{
+    const drawn_window window;
+    const QString folder = window.driver.folder.path();
+    QVERIFY(QFile::setPermissions(folder, QFile::ReadOwner | QFile::ExeOwner));
+    {
+        const without_override common_user;
+        QVERIFY(window.save());
+    }
+    QVERIFY(!QFile::exists(window.picture));
+    QVERIFY(QFile::setPermissions(folder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
+    QVERIFY(window.saves_again());
+}
+
+void tst_picture_faults::forbidden_picture()
+{
+    const drawn_window window;
+    write_file(window.picture, "something else");
+    QVERIFY(QFile::setPermissions(window.picture, QFile::ReadOwner));
+    {
+        const without_override common_user;
+        QVERIFY(window.save());
+    }
+    QCOMPARE(QFileInfo(window.picture).size(), 14);
+    QVERIFY(window.saves_again());
+}
+
+void tst_picture_faults::folder_that_is_gone()
+{
+    const drawn_window window;
+    const QString folder = window.driver.folder.path();
+    QVERIFY(QDir(folder).removeRecursively());
+    QVERIFY(window.save());
+    QVERIFY(!QFile::exists(folder));
+    QVERIFY(QDir().mkpath(folder));
+    QVERIFY(window.saves_again());
+}
+
+// Writing there would wait for ever.
+void tst_picture_faults::fifo_without_a_reader()
+{
+    const drawn_window window;
+    QCOMPARE(mkfifo(qPrintable(window.picture), 0600), 0);
+    QVERIFY(window.save());
+    QVERIFY(QFile::exists(window.picture));
+    QVERIFY(window.saves_again());
+}
+
+// The picture goes where the link leads.
+void tst_picture_faults::dangling_link()
+{
+    const drawn_window window;
+    const QString target = window.driver.folder.filePath("elsewhere.png");
+    QVERIFY(QFile::link(target, window.picture));
+    QVERIFY(window.save());
+    QCOMPARE(QImage(target).size(), QSize(681, 581));
+}
+
+QTEST_MAIN(tst_picture_faults)
+#include "tst_picture_faults.moc"
