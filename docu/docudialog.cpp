@@ -1,6 +1,7 @@
 #include "docu/docudialog.h"
 
 #include <QAction>
+#include <QFileInfo>
 #include <QGuiApplication>
 #include <QLabel>
 #include <QListView>
@@ -19,6 +20,13 @@ namespace {
 
 constexpr qreal zoomMultiplier = std::numbers::sqrt2;
 constexpr int sidePanelWidth = 250;
+
+// The file itself, or none: opening a FIFO might wait for ever, and a device has no end.
+QString fileToRead(const QString& fileName)
+{
+    const QFileInfo place(fileName);
+    return place.isFile() || !place.exists() ? fileName : QString();
+}
 
 } // namespace
 
@@ -46,7 +54,7 @@ DocuDialog::~DocuDialog()
 
 void DocuDialog::loadDocument(const QString& fileName, int page)
 {
-    document->load(fileName);
+    document->load(fileToRead(fileName));
     const QString title = document->metaData(QPdfDocument::MetaDataField::Title).toString();
     setWindowTitle(title.isEmpty() ? tr("Documentation") : title);
     bookmarkView->expandAll();

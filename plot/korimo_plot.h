@@ -13,10 +13,12 @@
 #include <qwt_plot_panner.h>
 
 #include <array>
+#include <functional>
 
 class QFile;
 class QwtPlotCurve;
 class QwtPlotGrid;
+class text_lines;
 struct curve_rule;
 
 /// The plot document: what was read from one result file, and all that draws it into a pair of
@@ -37,7 +39,8 @@ public:
 
 public slots:
     /// Reads a WEL file into `series`, `wel_title` and `plot_mode`, or lists the names of a BEK or
-    /// DKL file in `kennlinien_list`. Shows `error_box` if the file cannot be opened.
+    /// DKL file in `kennlinien_list`. Shows `error_box` if the file cannot be opened, or, as all
+    /// readers do, if it is too large for the memory; then nothing of it is kept.
     void readFile(QString filepath);
     /// Reads one characteristic curve of a DKL file. Shows `error_box` like `readFile`.
     void read_DKL(QString filepath, QString dkl_item);
@@ -97,6 +100,8 @@ public:
 private:
     void show_error(const QString& title, const QString& text);
     bool open_or_report(QFile& file);
+    void report_unreadable_file();
+    void read_or_report(QFile& file, const std::function<void(text_lines&)>& read);
 
     void draw_curves();
     QwtPlotCurve* curve_of(const curve_rule& rule) const;

@@ -8,6 +8,8 @@
 #include "plot/reading/text_lines.h"
 #include "plot/reading/wel_reader.h"
 
+#include <new>
+
 namespace {
 
 // Only "/" parts a name from its folder; a backslash may stand in a name.
@@ -22,8 +24,31 @@ bool korimo_plot::open_or_report(QFile& file)
 {
     const bool opened = open_result_file(file);
     if (!opened)
-        show_error(QStringLiteral("Error"), QStringLiteral("Could not open or read file"));
+        report_unreadable_file();
     return opened;
+}
+
+void korimo_plot::report_unreadable_file()
+{
+    show_error(QStringLiteral("Error"), QStringLiteral("Could not open or read file"));
+}
+
+// A file that is too large for the memory counts as unreadable. What was read of it is given back
+// before anything else is done.
+void korimo_plot::read_or_report(QFile& file, const std::function<void(text_lines&)>& read)
+{
+    const int mode_before = plot_mode;
+    try {
+        text_lines lines(file);
+        read(lines);
+        return;
+    } catch (const std::bad_alloc&) {
+        plot_mode = mode_before;
+        wel_title.clear();
+        kennlinien_list.clear();
+        series = {};
+    }
+    report_unreadable_file();
 }
 
 void korimo_plot::readFile(QString filepath)
@@ -32,20 +57,21 @@ void korimo_plot::readFile(QString filepath)
     QFile file(filepath);
     if (!open_or_report(file))
         return;
-    text_lines lines(file);
-    switch (file_kind_of(filepath)) {
-    case file_kind::wel:
-        read_wel(lines, file_name_of(filepath), {plot_mode, wel_title, series});
-        break;
-    case file_kind::bek:
-        kennlinien_list = list_bek_names(lines);
-        break;
-    case file_kind::dkl:
-        kennlinien_list = list_dkl_names(lines);
-        break;
-    case file_kind::none:
-        break;
-    }
+    read_or_report(file, [&](text_lines& lines) {
+        switch (file_kind_of(filepath)) {
+        case file_kind::wel:
+            read_wel(lines, file_name_of(filepath), {plot_mode, wel_title, series});
+            break;
+        case file_kind::bek:
+            kennlinien_list = list_bek_names(lines);
+            break;
+        case file_kind::dkl:
+            kennlinien_list = list_dkl_names(lines);
+            break;
+        case file_kind::none:
+            break;
+        }
+    });
 }
 
 // Unlike the other two, this reader says nothing about a file that cannot be opened; that is
@@ -56,8 +82,7 @@ void korimo_plot::read_BEK(QString filepath, QString bek_item)
     QFile file(filepath);
     if (!open_result_file(file))
         return;
-    text_lines lines(file);
-    read_bek(lines, bek_item, series);
+    read_or_report(file, [&](text_lines& lines) { read_bek(lines, bek_item, series); });
 }
 
 void korimo_plot::read_DKL(QString filepath, QString dkl_item)
@@ -66,6 +91,5 @@ void korimo_plot::read_DKL(QString filepath, QString dkl_item)
     QFile file(filepath);
     if (!open_or_report(file))
         return;
-    text_lines lines(file);
-    read_dkl(lines, dkl_item, wel_title, series);
+    read_or_report(file, [&](text_lines& lines) { read_dkl(lines, dkl_item, wel_title, series); });
 }

@@ -1,0 +1,151 @@
+#include "plot/korimo_plot.h"
+#include "tests/support/limits.h"
+#include "tests/support/modal_boxes.h"
+#include "tests/support/named_curves.h"
+#include "tests/support/write_file.h"
+
+#include <qwt_plot.h>
+
+#include <QListWidget>
+#include <QLoggingCategory>
+#include <QPushButton>
+#include <QTest>
+
+#include <algorithm>
+
+namespace {
+
+constexpr qsizetype room = 16 << 20; // as the options of the sanitizer say in CMakeLists.txt
+
+// While it lives, the memory ends soon. The sanitizer itself needs more than any limit; it refuses
+// what is larger than its options allow.
+#ifdef __SANITIZE_ADDRESS__
+struct scarce_memory
+{
+    ~scarce_memory() {}
+};
+#else
+struct scarce_memory
+{
+    const lower_limit limit{RLIMIT_AS, used_addresses() + room};
+};
+#endif
+
+bool has_no_values(const korimo_plot& document)
+{
+    return std::ranges::all_of(document.series, &QList<double>::isEmpty);
+}
+
+// Text that is written behind what the file starts with: `piece` until it is as long as the room, or
+// somewhat longer than that.
+struct rest_of_file
+{
+    const char* piece;
+    qsizetype factor;
+};
+
+void append(const QString& path, const rest_of_file& rest)
+{
+    const QByteArray block = QByteArray(rest.piece).repeated(1 << 19);
+    QFile file(path);
+    if (!file.open(QIODevice::Append))
+        qFatal("cannot write a temporary file");
+    for (qsizetype size = 0; size < rest.factor * room / 2; size += block.size())
+        file.write(block);
+}
+
+constexpr rest_of_file rows{"1\n", 1};
+constexpr rest_of_file one_token{"11", 4};
+constexpr rest_of_file one_row{"1 ", 4};
+
+} // namespace
+
+/// A file that is too large for the memory: the viewer says so, keeps nothing of it, and goes on.
+class tst_out_of_memory : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void opened_data();
+    void opened();
+    void drawn_data();
+    void drawn();
+};
+
+void tst_out_of_memory::initTestCase()
+{
+    QLoggingCategory::setFilterRules("*.debug=false");
+}
+
+void tst_out_of_memory::opened_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QByteArray>("start");
+    QTest::addColumn<rest_of_file>("rest");
+    const QByteArray hydrograph = "Ganglinien\n1 1 1\n";
+    QTest::newRow("rows") << "x_P.wel" << hydrograph << rows;
+    QTest::newRow("one token") << "x_P.wel" << hydrograph << one_token;
+    QTest::newRow("one row") << "x_P.wel" << hydrograph << one_row;
+    QTest::newRow("basins") << "x.bek" << basin_table() << one_token;
+    QTest::newRow("curves") << "x.dkl" << throttle_curves() << one_token;
+}
+
+void tst_out_of_memory::opened()
+{
+    QFETCH(QString, name);
+    QFETCH(QByteArray, start);
+    QFETCH(rest_of_file, rest);
+    window_driver driver;
+    append(driver.add(name, start), rest);
+    driver.add("good_P.wel", "1 2 3\n4 5 6\n");
+    driver.select(0);
+    const modal_boxes boxes;
+    {
+        const scarce_memory scarce;
+        driver.press(driver.button);
+    }
+    QCOMPARE(boxes.shown().size(), name.endsWith("wel") ? 2 : 1);
+    QCOMPARE(boxes.shown()[0].title, "Error");
+    QCOMPARE(boxes.shown()[0].text, "Could not open or read file");
+    const korimo_plot& document = *driver.window.shown_document();
+    QVERIFY(has_no_values(document));
+    QCOMPARE(document.plot_mode, -1);
+    QCOMPARE(document.wel_title, "");
+    QCOMPARE(driver.names->count(), 0);
+    driver.select(1);
+    driver.press(driver.button);
+    QCOMPARE(driver.window.shown_document()->series[12], (QList<double>{2, 5}));
+}
+
+void tst_out_of_memory::drawn_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::newRow("basin") << "x.bek";
+    QTest::newRow("curve") << "x.dkl";
+}
+
+// The file has grown since its names were listed.
+void tst_out_of_memory::drawn()
+{
+    QFETCH(QString, name);
+    window_driver driver;
+    const QString path = driver.open(name, named_curves(name));
+    append(path, one_token);
+    driver.pick(2);
+    const modal_boxes boxes;
+    {
+        const scarce_memory scarce;
+        driver.press(driver.plot_name);
+    }
+    QCOMPARE(boxes.shown().size(), 1);
+    QCOMPARE(boxes.shown()[0].text, "Could not open or read file");
+    QVERIFY(has_no_values(*driver.window.shown_document()));
+    QCOMPARE(driver.names->count(), 4);
+    write_file(path, named_curves(name));
+    driver.press(driver.plot_name);
+    QCOMPARE(drawn_number(driver), 3);
+}
+
+QTEST_MAIN(tst_out_of_memory)
+#include "tst_out_of_memory.moc"
