@@ -3,11 +3,13 @@
 #include <QIODevice>
 #include <QString>
 
+#include <new>
 #include <utility>
 
 namespace {
 
 constexpr qsizetype block_size = 65'536;
+constexpr qsizetype longest_line = 1 << 28; // no result file has one of a hundredth of it
 constexpr QByteArrayView utf8_mark("\xEF\xBB\xBF");
 
 constexpr QStringDecoder::Flags keep_marks = QStringDecoder::Flag::ConvertInitialBom;
@@ -54,11 +56,14 @@ bool text_lines::take_last_line(QByteArrayView& line)
     return !line.isEmpty() || is_only_line;
 }
 
-// Drops what has been given out and reads one more block behind the rest.
+// Drops what has been given out and reads one more block behind the rest. A file of one line
+// without an end must not fill the memory of the machine, so it counts as too large long before.
 void text_lines::fill()
 {
     buffer.remove(0, start);
     start = 0;
+    if (buffer.size() > longest_line)
+        throw std::bad_alloc();
     block.resize(block_size);
     const qint64 count = device.read(block.data(), block_size);
     at_end = count <= 0;

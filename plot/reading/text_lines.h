@@ -15,6 +15,8 @@ class QIODevice;
 /// chooses UTF-16 or UTF-32 and is dropped itself; an incomplete character at the very end is
 /// dropped. Bytes that are no UTF-8 stay in the line as they are: `decoded` turns them into
 /// replacement characters.
+///
+/// A line longer than 256 MB, or than the memory, ends the reading with std::bad_alloc.
 class text_lines
 {
 public:

@@ -152,9 +152,9 @@ void tst_changing_files::written_all_the_time_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<QByteArray>("bytes");
-    QTest::newRow("hydrographs") << "x_P.wel" << rows_of("1", 0, 12'000);
-    QTest::newRow("basins") << "x.bek" << basin_table().repeated(500);
-    QTest::newRow("curves") << "x.dkl" << throttle_curves().repeated(500);
+    QTest::newRow("hydrographs") << "x_P.wel" << rows_of("1", 0, 6'000);
+    QTest::newRow("basins") << "x.bek" << basin_table().repeated(300);
+    QTest::newRow("curves") << "x.dkl" << throttle_curves().repeated(300);
 }
 
 // Another thread cuts and writes the file while it is read and drawn again and again.
@@ -176,7 +176,7 @@ void tst_changing_files::written_all_the_time()
     });
     const log_capture log;
     const modal_boxes boxes;
-    for (int i = 0; i < 60; ++i) {
+    for (int i = 0; i < 25; ++i) {
         const plot_pair plots;
         plots.document->readFile(path);
         if (name.endsWith("bek"))

@@ -36,8 +36,8 @@ bool has_no_values(const korimo_plot& document)
     return std::ranges::all_of(document.series, &QList<double>::isEmpty);
 }
 
-// Text that is written behind what the file starts with: `piece` until it is as long as the room, or
-// somewhat longer than that.
+// Text that is written behind what the file starts with: `piece` until it is as long as the room,
+// or somewhat longer than that.
 struct rest_of_file
 {
     const char* piece;
@@ -71,6 +71,8 @@ private slots:
     void opened();
     void drawn_data();
     void drawn();
+    void line_without_end_data();
+    void line_without_end();
 };
 
 void tst_out_of_memory::initTestCase()
@@ -145,6 +147,28 @@ void tst_out_of_memory::drawn()
     write_file(path, named_curves(name));
     driver.press(driver.plot_name);
     QCOMPARE(drawn_number(driver), 3);
+}
+
+void tst_out_of_memory::line_without_end_data()
+{
+    QTest::addColumn<QString>("name");
+    for (const char* name : {"x_P.wel", "x.bek", "x.dkl"})
+        QTest::newRow(name) << QString(name);
+}
+
+// There would be memory enough. On the disk, the zeros take no room.
+void tst_out_of_memory::line_without_end()
+{
+    QFETCH(QString, name);
+    window_driver driver;
+    const QString path = driver.add(name, "1 2 3\n");
+    QVERIFY(QFile::resize(path, 5'000'000'000));
+    driver.select(0);
+    const modal_boxes boxes;
+    driver.press(driver.button);
+    QCOMPARE(boxes.shown().size(), name.endsWith("wel") ? 2 : 1);
+    QCOMPARE(boxes.shown()[0].text, "Could not open or read file");
+    QVERIFY(has_no_values(*driver.window.shown_document()));
 }
 
 QTEST_MAIN(tst_out_of_memory)

@@ -1,0 +1,164 @@
+// How much time and memory the viewer needs for files far larger than any real one: each in a
+// process of its own, from its start to its end, less what the same process needs without a file.
+
+#include "bench/child_process.h"
+#include "bench/wel_files.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <cstdio>
+#include <functional>
+
+namespace {
+
+constexpr qint64 five_gb = 5'000'000'000;
+constexpr qint64 hundred_mb = 100'000'000;
+constexpr qsizetype rows_of_five_gb = 45'900'000;
+constexpr int files = 10'000;
+constexpr int names = 100'000;
+
+// A kind of file, how it is made, and what it may take at most.
+struct size
+{
+    const char* what;
+    const char* name;
+    std::function<void(const QString& path)> make;
+    double megabytes; ///< limit of the memory
+    double seconds;   ///< limit of the time
+    bool log = false; ///< with the debug log on
+};
+
+// Writes `start`, then `piece` until the file has so many bytes, then `end`.
+void write_repeated(const QString& path, const QByteArray& start, const QByteArray& piece,
+                    qint64 bytes, const QByteArray& end = "\n")
+{
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly))
+        qFatal("a large file cannot be written");
+    file.write(start);
+    const QByteArray block = piece.repeated(1'000'000 / piece.size() + 1);
+    for (qint64 size = start.size(); size < bytes; size += block.size())
+        file.write(block);
+    if (file.write(end) != end.size() || !file.flush())
+        qFatal("a large file cannot be written");
+}
+
+std::function<void(const QString&)> repeated(const QByteArray& start, const QByteArray& piece,
+                                             qint64 bytes)
+{
+    return [=](const QString& path) { write_repeated(path, start, piece, bytes); };
+}
+
+std::function<void(const QString&)> rows(qsizetype count)
+{
+    return [=](const QString& path) { bench::write_wel_file(path, count, "KN"); };
+}
+
+// Zeros that take no room on the disk.
+void make_hole(const QString& path)
+{
+    write_repeated(path, "Ganglinien\n0 1 2\n", " ", 0);
+    if (!QFile::resize(path, five_gb))
+        qFatal("a large file cannot be written");
+}
+
+void make_many_files(const QString& path)
+{
+    QDir().mkpath(path);
+    for (int i = 0; i < files; ++i)
+        write_repeated(path + QString("/Ergebnis_%1_K.wel").arg(i), "0 1\n", " ", 0);
+}
+
+QByteArray padded(int value)
+{
+    return QByteArray::number(value).rightJustified(4, '0');
+}
+
+// Five characters are too few for as many names: some occur more than once.
+void make_many_basins(const QString& path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly))
+        qFatal("a large file cannot be written");
+    for (int i = 0; i < names; ++i)
+        file.write("   B" + padded(i % 10'000) + QByteArray(29, ' ') +
+                   " 101.50  0.50  0.00   0.00\n");
+}
+
+void make_many_curves(const QString& path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly))
+        qFatal("a large file cannot be written");
+    for (int i = 0; i < names; ++i) {
+        const QByteArray number = QByteArray::number(i);
+        file.write(" " + number + " Auslass" + number + " km " + number +
+                   ".5\n Wo Qd\n 2\n 101.5 1.0\n 102.0 2.0\n");
+    }
+}
+
+QList<size> sizes()
+{
+    const QByteArray title = "Ganglinien Knoten K1\n0 1 2\n";
+    const double series_of_rows = 80.0; // bytes: ten columns
+    return {
+        {"10,000,000 rows", "x_K.wel", rows(10'000'000), 1.6 * series_of_rows * 10, 20},
+        {"5 GB of rows", "x_K.wel", rows(rows_of_five_gb), 1.6 * series_of_rows * 45.9, 120},
+        {"5 GB without a row", "x_K.wel", repeated(title, "Text und keine Zahl\n", five_gb), 20,
+         60},
+        {"5 GB in one line", "x_K.wel", make_hole, 700, 20},
+        {"100 MB, one token", "x_K.wel", repeated(title, "1234567890", hundred_mb), 1000, 10},
+        {"100 MB, many tokens", "x_K.wel", repeated(title, "1 ", hundred_mb), 1500, 10},
+        {"the same with the log", "x_K.wel", repeated(title, "1 ", hundred_mb), 3000, 20, true},
+        {"100 MB in one line, BEK", "x.bek", repeated("", "   B1    101.50", hundred_mb), 700, 10},
+        {"100 MB in one line, DKL", "x.dkl", repeated("", " 1 Auslass1 km 1.5", hundred_mb), 4000,
+         20},
+        {"100,000 names, BEK", "x.bek", make_many_basins, 100, 10},
+        {"100,000 names, DKL", "x.dkl", make_many_curves, 100, 10},
+        {"10,000 files", "files", make_many_files, 100, 10},
+    };
+}
+
+// Runs the viewer with a file, or without one.
+bench::ended_process run(const std::string& path, bool log)
+{
+    const std::string rules = log ? "QT_LOGGING_RULES=*=true" : "QT_LOGGING_RULES=*=false";
+    return bench::run_process({"sh", "-c", R"(exec env "$0" "$@" 2>/dev/null)", rules,
+                               bench::built_beside("one_size"), path});
+}
+
+// Prints a line for the size and answers whether it keeps its limits.
+bool measure(const size& each, const bench::ended_process& without_file)
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(each.name);
+    each.make(path);
+    const bench::ended_process process = run(path.toStdString(), each.log);
+    const double seconds = (process.milliseconds - without_file.milliseconds) / 1000;
+    const double megabytes = process.peak_megabytes - without_file.peak_megabytes;
+    const bool is_kept =
+        process.succeeded && seconds <= each.seconds && megabytes <= each.megabytes;
+    std::printf("%-26s %8.2f s  limit %4.0f  %8.1f MB  limit %5.0f  %s\n%s", each.what, seconds,
+                each.seconds, megabytes, each.megabytes,
+                !process.succeeded ? "failed"
+                : is_kept          ? "ok"
+                                   : "over",
+                process.output.c_str());
+    std::fflush(stdout);
+    return is_kept;
+}
+
+} // namespace
+
+int main()
+{
+    const bench::ended_process without_file = run("", false);
+    if (!without_file.succeeded)
+        qFatal("the viewer does not run");
+    bool all_kept = true;
+    for (const size& each : sizes())
+        all_kept = measure(each, without_file) && all_kept;
+    return all_kept ? 0 : 1;
+}
