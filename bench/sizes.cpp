@@ -107,7 +107,7 @@ QList<size> sizes()
         {"10,000,000 rows", "x_K.wel", rows(10'000'000), 1.6 * series_of_rows * 10, 20},
         {"5 GB of rows", "x_K.wel", rows(rows_of_five_gb), 1.6 * series_of_rows * 45.9, 120},
         {"5 GB without a row", "x_K.wel", repeated(title, "Text und keine Zahl\n", five_gb), 20,
-         60},
+         240},
         {"5 GB in one line", "x_K.wel", make_hole, 700, 20},
         {"100 MB, one token", "x_K.wel", repeated(title, "1234567890", hundred_mb), 1000, 10},
         {"100 MB, many tokens", "x_K.wel", repeated(title, "1 ", hundred_mb), 1500, 10},

@@ -77,7 +77,7 @@ private:
     void set_up_plots();
     void connect_commands();
 
-    void add_file(const QString& path);
+    void add_files(const QStringList& paths);
 
     enum class box_buttons
     {

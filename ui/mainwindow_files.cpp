@@ -7,6 +7,7 @@
 #include <QDragEnterEvent>
 #include <QDropEvent>
 #include <QMimeData>
+#include <QSet>
 #include <QUrl>
 
 #include <memory>
@@ -33,9 +34,7 @@ bool is_result_file(const QUrl& url)
 
 void MainWindow::selectFiles()
 {
-    const auto paths = choose_result_files(this);
-    for (const QString& path : paths)
-        add_file(path);
+    add_files(choose_result_files(this));
 }
 
 void MainWindow::on_action_oeffenen_triggered()
@@ -54,17 +53,26 @@ void MainWindow::dropEvent(QDropEvent* event)
     if (!event->mimeData()->hasUrls())
         return;
     accept_as_copy(*event);
+    QStringList paths;
     const auto urls = event->mimeData()->urls();
     for (const QUrl& url : urls) {
         if (is_result_file(url))
-            add_file(url.toLocalFile());
+            paths.append(url.toLocalFile());
     }
+    add_files(paths);
 }
 
-void MainWindow::add_file(const QString& path)
+// To search the rows for each path would take thousands of files a quarter of a minute.
+void MainWindow::add_files(const QStringList& paths)
 {
-    if (ui->listWidget->findItems(path, Qt::MatchExactly | Qt::MatchCaseSensitive).isEmpty())
-        ui->listWidget->addItem(path);
+    QSet<QString> listed;
+    for (int row = 0; row < ui->listWidget->count(); ++row)
+        listed.insert(ui->listWidget->item(row)->text());
+    for (const QString& path : paths) {
+        if (!listed.contains(path))
+            ui->listWidget->addItem(path);
+        listed.insert(path);
+    }
 }
 
 void MainWindow::remove_file_clicked()

@@ -10,6 +10,7 @@
 #include <QDialogButtonBox>
 #include <QDragEnterEvent>
 #include <QDropEvent>
+#include <QElapsedTimer>
 #include <QFileDialog>
 #include <QListView>
 #include <QListWidget>
@@ -87,6 +88,7 @@ private slots:
     void drops_data();
     void drops();
     void dropped_twice();
+    void ten_thousand_files();
     void drop_is_a_copy();
     void drop_without_urls();
     void dialog_lists_the_three_kinds_data();
@@ -152,6 +154,22 @@ void tst_file_list::dropped_twice()
     drop(driver.window, urls);
     drop(driver.window, urls);
     QCOMPARE(driver.files(), QStringList{"/a/x.wel"});
+}
+
+// The time grows with the number of files, not with its square.
+void tst_file_list::ten_thousand_files()
+{
+    window_driver driver;
+    QList<QUrl> urls;
+    for (int i = 0; i < 10'000; ++i)
+        urls.append(QUrl(QString("file:///a/%1.wel").arg(i)));
+    QElapsedTimer clock;
+    clock.start();
+    drop(driver.window, urls);
+    drop(driver.window, urls);
+    QVERIFY2(clock.elapsed() < 20'000, QByteArray::number(clock.elapsed()));
+    QCOMPARE(driver.list->count(), 10'000);
+    QCOMPARE(driver.list->item(9'999)->text(), "/a/9999.wel");
 }
 
 void tst_file_list::drop_is_a_copy()
