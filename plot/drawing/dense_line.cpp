@@ -20,12 +20,6 @@ bool ends_a_piece(qsizetype vertex)
     return vertex % edges_of_a_piece == 0;
 }
 
-// Whether a piece ends at one of these vertices, both included.
-bool ends_a_piece(qsizetype first_vertex, qsizetype last_vertex)
-{
-    return last_vertex / edges_of_a_piece * edges_of_a_piece >= first_vertex;
-}
-
 // The pixels that a rectangle sets when Qt draws its area: those with their centres inside, on its
 // right or on its lower edge.
 QRect pixels_within(double left, double right, double top, double bottom)
@@ -127,16 +121,26 @@ row_range dense_line::rows_beside(qsizetype index) const
     return {std::max(left.top, right.top), std::min(left.bottom, right.bottom)};
 }
 
+// Whether a piece ends at one of these vertices, both included: at each sixth, and the last one
+// where the whole line ends.
+bool dense_line::has_end_among(qsizetype first_vertex, qsizetype last_vertex) const
+{
+    const bool has_sixth = last_vertex / edges_of_a_piece * edges_of_a_piece >= first_vertex;
+    const qsizetype end_of_line = bars.last().last_vertex;
+    return has_sixth ||
+           (end == line.size() && end_of_line >= first_vertex && end_of_line <= last_vertex);
+}
+
 // Whether a piece ends in the row, which is the top or the bottom one.
 bool dense_line::has_cap_in(const bar& each, int row) const
 {
-    if (!ends_a_piece(each.first_vertex, each.last_vertex) || !line.window().has(row))
+    if (!has_end_among(each.first_vertex, each.last_vertex) || !line.window().has(row))
         return false;
     qsizetype vertex = each.first_vertex - rows.vertices_at(each.first);
     for (qsizetype point = each.first; point <= each.last;) {
         const qsizetype next = std::min(pixel_rows::end_of_block(point), each.last + 1);
         const auto [range, vertices] = rows.sum_up_in_block(point, next);
-        if (range.has(row) && ends_a_piece(vertex, vertex + vertices) &&
+        if (range.has(row) && has_end_among(vertex, vertex + vertices) &&
             has_cap_among(point, next, vertex, row))
             return true;
         vertex += vertices;
@@ -151,7 +155,7 @@ bool dense_line::has_cap_among(qsizetype first_point, qsizetype end_point, qsize
 {
     for (qsizetype point = first_point; point < end_point; ++point) {
         vertex += rows.vertices_at(point);
-        if (ends_a_piece(vertex) && rows.row(point) == row)
+        if (has_end_among(vertex, vertex) && rows.row(point) == row)
             return true;
     }
     return false;

@@ -69,6 +69,7 @@ private:
     bar bar_of(qsizetype first_point, qsizetype end_point, qsizetype first_vertex) const;
     void find_caps();
     row_range rows_beside(qsizetype index) const;
+    bool has_end_among(qsizetype first_vertex, qsizetype last_vertex) const;
     bool has_cap_in(const bar& each, int row) const;
     bool has_cap_among(qsizetype first_point, qsizetype end_point, qsizetype vertex, int row) const;
 

@@ -37,10 +37,28 @@ QRectF clip_rectangle(const QPainter& painter, QRectF canvas)
 bool draws_pieces(QPainter& painter)
 {
     const QPaintEngine* const engine = painter.paintEngine();
-    return engine && engine->type() == QPaintEngine::Raster &&
+    const QTransform& moved = painter.transform();
+    const bool by_whole_pixels =
+        qFloor(moved.dx()) == moved.dx() && qFloor(moved.dy()) == moved.dy();
+    return engine && engine->type() == QPaintEngine::Raster && by_whole_pixels &&
            QwtPainter::roundingAlignment(&painter) && QwtPainter::polylineSplitting() &&
-           !painter.testRenderHint(QPainter::Antialiasing) && painter.pen().widthF() > 1.0 &&
-           painter.pen().style() == Qt::SolidLine && painter.pen().color().alpha() == 255;
+           !painter.testRenderHint(QPainter::Antialiasing);
+}
+
+// Whether lines of the pen are known to be bars with square ends, in one colour.
+bool draws_bars(const QPen& pen)
+{
+    constexpr double widest = 2.5; // a wider one has corners that show beside the bars
+    return pen.widthF() > 1.0 && pen.widthF() <= widest && pen.style() == Qt::SolidLine &&
+           pen.capStyle() == Qt::SquareCap && pen.joinStyle() == Qt::BevelJoin &&
+           pen.brush().style() == Qt::SolidPattern && pen.color().alpha() == 255;
+}
+
+// Whether the place of a value is found by a product and a sum, and larger values lie farther
+// right.
+bool is_even(const QwtScaleMap& x_map, const QwtScaleMap& y_map)
+{
+    return !x_map.transformation() && !y_map.transformation() && !x_map.isInverting();
 }
 
 // Whether rows within the rectangle are kept.
@@ -87,7 +105,7 @@ bool long_curve::is_plain() const
 QRectF long_curve::boundingRect() const
 {
     const sampled_line* const samples = orderly_line();
-    if (!samples)
+    if (!samples || !samples->is_finite())
         return QwtPlotCurve::boundingRect();
     const auto [low, high] = samples->range();
     const double left = samples->x_of(0);
@@ -100,8 +118,8 @@ void long_curve::drawLines(QPainter* painter, const QwtScaleMap& x_map, const Qw
     sampled_line* const samples = orderly_line();
     const bool draws_all = samples && from == 0 && to == samples->size() - 1;
     const QRectF clip = clip_rectangle(*painter, canvas);
-    if (!draws_all || !is_plain() || !draws_pieces(*painter) || x_map.isInverting() ||
-        !is_near(clip)) {
+    if (!draws_all || !is_plain() || !draws_pieces(*painter) || !draws_bars(painter->pen()) ||
+        !is_even(x_map, y_map) || !is_near(clip)) {
         QwtPlotCurve::drawLines(painter, x_map, y_map, canvas, from, to);
         return;
     }
@@ -109,13 +127,15 @@ void long_curve::drawLines(QPainter* painter, const QwtScaleMap& x_map, const Qw
     const qsizetype first = samples->first_from_column(qCeil(clip.left()), 0, samples->size());
     const qsizetype end =
         samples->first_from_column(qFloor(clip.right()) + 1, first, samples->size());
-    if (static_cast<double>(end - first) > points_per_column * clip.width()) {
+    // Of the points outside, only the nearest ones are joined with what can be seen.
+    const qsizetype first_drawn = std::max<qsizetype>(first - 1, 0);
+    const qsizetype last_drawn = std::min(end, samples->size() - 1);
+    const bool is_dense = static_cast<double>(end - first) > points_per_column * clip.width();
+    if (is_dense && samples->is_finite(first_drawn, last_drawn + 1)) {
         samples->set_y_scale(y_map, {qCeil(clip.top()), qFloor(clip.bottom())});
         dense_line(*samples, clip, painter->pen().widthF(), first, end).draw(*painter);
-        return;
+    } else {
+        QwtPlotCurve::drawLines(painter, x_map, y_map, canvas, static_cast<int>(first_drawn),
+                                static_cast<int>(last_drawn));
     }
-    // Of the points outside, only the nearest ones are joined with what can be seen.
-    const auto first_drawn = static_cast<int>(std::max<qsizetype>(first - 1, 0));
-    const auto last_drawn = static_cast<int>(std::min(end, samples->size() - 1));
-    QwtPlotCurve::drawLines(painter, x_map, y_map, canvas, first_drawn, last_drawn);
 }

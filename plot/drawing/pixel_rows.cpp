@@ -1,6 +1,6 @@
 #include "plot/drawing/pixel_rows.h"
 
-#include <QtNumeric>
+#include "plot/drawing/pixel_map.h"
 
 #include <algorithm>
 #include <cmath>
@@ -17,11 +17,9 @@ struct rounded_row
 
 rounded_row row_of(const QwtScaleMap& scale, double value)
 {
-    constexpr double far_away = 1e9;
-    const double place = scale.transform(value);
-    const double bounded = place < -far_away ? -far_away : place > far_away ? far_away : place;
-    const int row = qRound(bounded);
-    return {row, std::abs(bounded - row) > 0.5 - negligible};
+    const double place = place_of(scale, value);
+    const int row = qRound(place);
+    return {row, std::abs(place - row) > 0.5 - negligible};
 }
 
 qint16 kept_as(int row)
@@ -128,7 +126,7 @@ void pixel_rows::find_block(qsizetype index)
     found.is_found = true;
     found.before = kept_as(before.row - shift);
     found.is_near_half = before.is_near_half || one.is_near_half || other.is_near_half;
-    if (one.row == other.row && !found.is_near_half)
+    if (one.row == other.row)
         found.top = found.bottom = kept_as(one.row - shift);
     else
         find_rows(index);

@@ -33,7 +33,7 @@ public:
         qsizetype vertices; ///< that the line gets at these points, each seen from the one before
     };
 
-    /// The values, which must be finite, and their ranges must outlive this.
+    /// The values and their ranges must outlive this.
     pixel_rows(std::span<const double> values, const value_blocks& ranges);
 
     /// Sets the scale and the rows between which the line is kept, none of them farther away than
@@ -41,8 +41,8 @@ public:
     /// number.
     void set_scale(const QwtScaleMap& scale, const row_window& window);
 
-    /// Finds the rows of the points from `first` to the one before `end`. All that follows may be
-    /// asked of such points only.
+    /// Finds the rows of the points from `first` to the one before `end`, whose blocks must be
+    /// finite. All that follows may be asked of such points only.
     void find(qsizetype first, qsizetype end);
 
     int row(qsizetype index) const { return kept_row(index) + shift; }

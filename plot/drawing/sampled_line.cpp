@@ -27,9 +27,20 @@ sampled_line::sampled_line(std::span<const double> x, std::span<const double> y)
     : x(x)
     , y(y)
     , blocks(y)
-    , orderly(blocks.all_are_finite() && rises_orderly(x))
+    , orderly(rises_orderly(x))
     , rows(y, blocks)
 {
+}
+
+bool sampled_line::is_finite(qsizetype first, qsizetype end) const
+{
+    if (is_finite())
+        return true;
+    for (qsizetype i = first / value_blocks::length; i * value_blocks::length < end; ++i) {
+        if (!blocks.is_finite(i))
+            return false;
+    }
+    return true;
 }
 
 void sampled_line::set_y_scale(const QwtScaleMap& scale, const row_window& window)

@@ -16,14 +16,18 @@ public:
     /// Both must have the same length, one point at least, and outlive this.
     sampled_line(std::span<const double> x, std::span<const double> y);
 
-    /// Whether x never falls and no coordinate is infinite or NaN. If not, only `size` may be
-    /// asked.
+    /// Whether x never falls and is nowhere infinite or NaN. If not, only `size` may be asked.
     bool is_orderly() const { return orderly; }
+
+    /// Whether y is nowhere infinite or NaN.
+    bool is_finite() const { return blocks.all_are_finite(); }
+    /// The same for the points from `first` to the one before `end`, and those nearby.
+    bool is_finite(qsizetype first, qsizetype end) const;
 
     qsizetype size() const { return static_cast<qsizetype>(x.size()); }
     double x_of(qsizetype index) const { return x[static_cast<std::size_t>(index)]; }
 
-    /// The range of all values.
+    /// The range of all values, if there is one.
     value_blocks::extent range() const { return blocks.all(); }
 
     /// Sets the scale that columns refer to. It must not be inverted.
@@ -41,8 +45,8 @@ public:
     /// The first point from `first` on that lies in `column` or behind it, or `end`.
     qsizetype first_from_column(int column, qsizetype first, qsizetype end) const;
 
-    /// The rows of the points from `first` to the one before `end`. All of them are looked at once,
-    /// and then only if the scale of y changes.
+    /// The rows of the points from `first` to the one before `end`, which must be finite. All of
+    /// them are looked at once, and then only if the scale of y changes.
     const pixel_rows& rows_of(qsizetype first, qsizetype end);
 
     /// The rows of the line that are kept.

@@ -1,10 +1,14 @@
 #include "plot/drawing/value_blocks.h"
 
 #include <algorithm>
+#include <limits>
 
 namespace {
 
 using extent = value_blocks::extent;
+
+constexpr double nan = std::numeric_limits<double>::quiet_NaN();
+constexpr extent unknown{nan, nan};
 
 // Comparisons in this order are one instruction each.
 extent widened(const extent& range, double low, double high)
@@ -58,13 +62,11 @@ value_blocks::value_blocks(std::span<const double> values)
     blocks.reserve(values.size() / step + 1);
     for (std::size_t i = 0; i < values.size(); i += step) {
         const lanes all = lanes_of(values.subspan(i, std::min(step, values.size() - i)));
-        blocks.push_back(joined(all.ranges));
-        finite =
-            finite && std::ranges::all_of(all.differences, [](double each) { return each == 0.0; });
+        const bool is_finite =
+            std::ranges::all_of(all.differences, [](double each) { return each == 0.0; });
+        blocks.push_back(is_finite ? joined(all.ranges) : unknown);
+        finite = finite && is_finite;
     }
-}
-
-value_blocks::extent value_blocks::all() const
-{
-    return joined(blocks);
+    if (finite && !blocks.empty())
+        whole = joined(blocks);
 }

@@ -20,16 +20,20 @@ public:
 
     explicit value_blocks(std::span<const double> values);
 
-    /// Whether no value is infinite or NaN. If there is one, nothing else here may be asked.
+    /// Whether no value is infinite or NaN.
     bool all_are_finite() const { return finite; }
+
+    /// The same for a block. If not, its range is unknown.
+    bool is_finite(qsizetype index) const { return block(index).low <= block(index).high; }
 
     qsizetype count() const { return static_cast<qsizetype>(blocks.size()); }
     const extent& block(qsizetype index) const { return blocks[static_cast<std::size_t>(index)]; }
 
-    /// The range of all values; there must be at least one.
-    extent all() const;
+    /// The range of all values, which must be finite.
+    extent all() const { return whole; }
 
 private:
     std::vector<extent> blocks;
+    extent whole{};
     bool finite = true;
 };

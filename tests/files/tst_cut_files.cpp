@@ -165,8 +165,10 @@ void tst_cut_files::every_length_of_curves_data()
 {
     QTest::addColumn<literal_curve>("read");
     QTest::addColumn<curve_slot>("slot");
-    QTest::newRow("Erlenbach.bek") << &read_bek_literally << &korimo_plot::read_BEK;
-    QTest::newRow("Erlenbach.dkl") << &read_dkl_literally << &korimo_plot::read_DKL;
+    QTest::newRow("Erlenbach.bek")
+        << literal_curve(read_bek_literally) << curve_slot(&korimo_plot::read_BEK);
+    QTest::newRow("Erlenbach.dkl")
+        << literal_curve(read_dkl_literally) << curve_slot(&korimo_plot::read_DKL);
 }
 
 void tst_cut_files::every_length_of_curves()
