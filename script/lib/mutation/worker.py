@@ -1,0 +1,120 @@
+"""A copy of the tree with a build folder of its own, in which one mutant after the other is tried."""
+
+import os
+import resource
+import shutil
+import signal
+import subprocess
+import threading
+import time
+from pathlib import Path
+
+from mutants import Mutant
+
+MEMORY = 6 << 30  # of a test that runs wild, in bytes
+# What the tests would notice in the debug build of the sanitizers, the assertions tell here.
+FLAGS = "-O1 -w -D_GLIBCXX_ASSERTIONS -DQT_FORCE_ASSERTS"
+# Random tests are long by their numbers; fewer are enough to notice one step.
+SHORTER = {"KORIMO_WALK": "600", "KORIMO_RANDOM_FILES": "400"}
+# Memory that was not written to must show.
+ENVIRONMENT = SHORTER | {"MALLOC_PERTURB_": "165"}
+
+
+def _limit_memory():
+    resource.setrlimit(resource.RLIMIT_AS, (MEMORY, MEMORY))
+    resource.setrlimit(resource.RLIMIT_CORE, (0, 0))
+
+
+def run(command: list, timeout: float, stop_at: str | None = None) -> tuple[bool, str]:
+    """Whether the command ends well, and its output. It is ended after a time, and with the first
+    line of output that has `stop_at`: a test goes on after a failure, but need not."""
+    process = subprocess.Popen(
+        [str(word) for word in command],
+        stdin=subprocess.DEVNULL,
+        stdout=subprocess.PIPE,
+        stderr=subprocess.STDOUT,
+        encoding="utf-8",
+        errors="replace",
+        start_new_session=True,
+        env=os.environ | ENVIRONMENT,
+        preexec_fn=_limit_memory if stop_at else None,
+    )
+    clock = threading.Timer(timeout, os.killpg, (process.pid, signal.SIGKILL))
+    clock.start()
+    output = []
+    for line in process.stdout:
+        output.append(line)
+        if stop_at and stop_at in line:
+            os.killpg(process.pid, signal.SIGKILL)
+            break
+    process.stdout.close()
+    process.wait()
+    clock.cancel()
+    return process.returncode == 0, "".join(output[-60:])
+
+
+class Worker:
+    def __init__(self, project: Path, folder: Path, files: list[str]):
+        self.project = project
+        self.tree = folder / "tree"
+        self.build = folder / "build"
+        self.usual = {}  # how long a test takes, in seconds
+        self._copy(files)
+
+    def _copy(self, files: list[str]):
+        """Only what has changed is written, so that the last build stays useful."""
+        known = set(files)
+        for old in [path for path in self.tree.rglob("*") if path.is_file()]:
+            if str(old.relative_to(self.tree)) not in known:
+                old.unlink()
+        for name in files:
+            source, copy = self.project / name, self.tree / name
+            copy.parent.mkdir(parents=True, exist_ok=True)
+            if not copy.exists() or copy.read_bytes() != source.read_bytes():
+                shutil.copyfile(source, copy)
+                shutil.copymode(source, copy)
+
+    def prepare(self, tests: list[str]):
+        """Builds all tests and runs them once: without a mutant they must pass."""
+        quick = self.tree / "script/lib/quick_build.cmake"
+        self._must(["cmake", "-G", "Ninja", "-S", self.tree, "-B", self.build,
+                    "-DCMAKE_BUILD_TYPE=None", f"-DCMAKE_CXX_FLAGS={FLAGS}", "-DKORIMO_END_TO_END_TESTS=OFF",
+                    f"-DCMAKE_PROJECT_plot_korimo_INCLUDE={quick}"])
+        self._must(["cmake", "--build", self.build, "--parallel", "1", "--target", *tests])
+        for test in tests:
+            start = time.monotonic()
+            if not self._passes(test, 1200):
+                raise SystemExit(f"{test} fails without a mutant")
+            self.usual[test] = time.monotonic() - start
+
+    def _must(self, command: list):
+        ended_well, output = run(command, 3600)
+        if not ended_well:
+            raise SystemExit(f"{' '.join(map(str, command))}\n{output}")
+
+    def _builds(self, test: str) -> bool:
+        command = ["cmake", "--build", self.build, "--parallel", "1", "--target", test]
+        return run(command, 600)[0]
+
+    def _passes(self, test: str, timeout: float) -> bool:
+        command = ["ctest", "--test-dir", self.build, "--tests-regex", rf"^{test}\.C$",
+                   "--no-tests=error", "--verbose"]
+        return run(command, timeout, stop_at="FAIL!")[0]
+
+    def try_out(self, mutant: Mutant, tests: list[str]) -> str:
+        """The name of the test that notices it, "invalid" or "survived"."""
+        copy = self.tree / mutant.path
+        text = (self.project / mutant.path).read_text(encoding="utf-8")
+        copy.write_text(text[: mutant.start] + mutant.replacement + text[mutant.end :], "utf-8")
+        try:
+            return self._verdict(tests)
+        finally:
+            copy.write_text(text, "utf-8")
+
+    def _verdict(self, tests: list[str]) -> str:
+        for test in tests:
+            if not self._builds(test):
+                return "invalid"
+            if not self._passes(test, 10 * self.usual[test] + 10):
+                return test
+        return "survived"

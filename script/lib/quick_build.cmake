@@ -1,0 +1,21 @@
+# For builds that are made for one purpose and away: the headers of the libraries are compiled once for
+# all files of a target. Taken in by CMAKE_PROJECT_plot_korimo_INCLUDE.
+set(CCACHE "" CACHE STRING "" FORCE)
+
+function(precompile_headers)
+  target_precompile_headers(korimo_reading PRIVATE <QtCore>)
+  target_precompile_headers(korimo_viewer PRIVATE <QtWidgets>)
+  target_precompile_headers(korimo_docu PRIVATE <QtWidgets>)
+  target_precompile_headers(korimo_test_support PRIVATE <QtWidgets> <QTest>)
+  get_property(tests DIRECTORY "${CMAKE_SOURCE_DIR}/tests" PROPERTY BUILDSYSTEM_TARGETS)
+  foreach(test IN LISTS tests)
+    if(test MATCHES "^tst_.*" AND NOT test STREQUAL tst_layout)
+      get_target_property(libraries ${test} LINK_LIBRARIES)
+      if(korimo_test_support IN_LIST libraries)
+        target_precompile_headers(${test} REUSE_FROM tst_layout)
+      endif()
+    endif()
+  endforeach()
+  target_precompile_headers(tst_layout PRIVATE <QtWidgets> <QTest>)
+endfunction()
+cmake_language(DEFER DIRECTORY "${CMAKE_SOURCE_DIR}" CALL precompile_headers)
