@@ -61,8 +61,8 @@ def check_list(mutants: list, equivalents):
         raise SystemExit(1)
 
 
-def work(worker: Worker, tests: list[str], todo: queue.SimpleQueue, results: Results, count: int):
-    worker.prepare(tests)
+def work(worker: Worker, todo: queue.SimpleQueue, results: Results, count: int):
+    worker.prepare()
     while True:
         try:
             mutant = todo.get_nowait()
@@ -97,10 +97,9 @@ def try_out(mutants: list, results: Results, jobs: int):
     for mutant in mutants:
         todo.put(mutant)
     count = todo.qsize()
-    tests = sorted({test for mutant in mutants for test in tests_of(mutant.path)})
     files = git_files()
     workers = [Worker(PROJECT, BUILD / f"worker_{i}", files) for i in range(min(jobs, count))]
-    in_parallel([lambda each=each: work(each, tests, todo, results, count) for each in workers])
+    in_parallel([lambda each=each: work(each, todo, results, count) for each in workers])
 
 
 def verdict_table(mutants: list, results: Results, equivalents) -> Table:

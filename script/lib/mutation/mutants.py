@@ -79,7 +79,8 @@ def texts(source: SourceText) -> Iterator[Edit]:
         if end - start == 2:
             yield start + 1, start + 1, "x"
         elif source.text[start + 1] != "\\":
-            yield start + 1, start + 2, chr(ord(source.text[start + 1]) + 1)
+            letter = ord(source.text[start + 1])
+            yield start + 1, start + 2, chr(letter - 1 if letter == ord("~") else letter + 1)
         elif source.text[start:end] in (r"'\n'", r"'\r'", r"'\0'"):
             yield start + 1, end - 1, "x"
 

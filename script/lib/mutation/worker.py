@@ -74,27 +74,28 @@ class Worker:
                 shutil.copyfile(source, copy)
                 shutil.copymode(source, copy)
 
-    def prepare(self, tests: list[str]):
-        """Builds all tests and runs them once: without a mutant they must pass."""
+    def prepare(self):
         quick = self.tree / "script/lib/quick_build.cmake"
         self._must(["cmake", "-G", "Ninja", "-S", self.tree, "-B", self.build,
-                    "-DCMAKE_BUILD_TYPE=None", f"-DCMAKE_CXX_FLAGS={FLAGS}", "-DKORIMO_END_TO_END_TESTS=OFF",
+                    "-DCMAKE_BUILD_TYPE=None", f"-DCMAKE_CXX_FLAGS={FLAGS}",
+                    "-DKORIMO_END_TO_END_TESTS=OFF",
                     f"-DCMAKE_PROJECT_plot_korimo_INCLUDE={quick}"])
-        self._must(["cmake", "--build", self.build, "--parallel", "1", "--target", *tests])
-        for test in tests:
-            start = time.monotonic()
-            if not self._passes(test, 1200):
-                raise SystemExit(f"{test} fails without a mutant")
-            self.usual[test] = time.monotonic() - start
+
+    def _get_to_know(self, test: str):
+        """Without a mutant a test must pass; how long that takes tells when to give up later."""
+        self._must(self._build_command(test))
+        start = time.monotonic()
+        if not self._passes(test, 1200):
+            raise SystemExit(f"{test} fails without a mutant")
+        self.usual[test] = time.monotonic() - start
 
     def _must(self, command: list):
         ended_well, output = run(command, 3600)
         if not ended_well:
             raise SystemExit(f"{' '.join(map(str, command))}\n{output}")
 
-    def _builds(self, test: str) -> bool:
-        command = ["cmake", "--build", self.build, "--parallel", "1", "--target", test]
-        return run(command, 600)[0]
+    def _build_command(self, test: str) -> list:
+        return ["cmake", "--build", self.build, "--parallel", "1", "--target", test]
 
     def _passes(self, test: str, timeout: float) -> bool:
         command = ["ctest", "--test-dir", self.build, "--tests-regex", rf"^{test}\.C$",
@@ -105,16 +106,22 @@ class Worker:
         """The name of the test that notices it, "invalid" or "survived"."""
         copy = self.tree / mutant.path
         text = (self.project / mutant.path).read_text(encoding="utf-8")
-        copy.write_text(text[: mutant.start] + mutant.replacement + text[mutant.end :], "utf-8")
+        changed = text[: mutant.start] + mutant.replacement + text[mutant.end :]
         try:
-            return self._verdict(tests)
+            for test in tests:
+                if test not in self.usual:
+                    copy.write_text(text, "utf-8")
+                    self._get_to_know(test)
+                if copy.read_text("utf-8") != changed:
+                    copy.write_text(changed, "utf-8")
+                verdict = self._verdict(test)
+                if verdict:
+                    return verdict
+            return "survived"
         finally:
             copy.write_text(text, "utf-8")
 
-    def _verdict(self, tests: list[str]) -> str:
-        for test in tests:
-            if not self._builds(test):
-                return "invalid"
-            if not self._passes(test, 10 * self.usual[test] + 10):
-                return test
-        return "survived"
+    def _verdict(self, test: str) -> str | None:
+        if not run(self._build_command(test), 600)[0]:
+            return "invalid"
+        return None if self._passes(test, 10 * self.usual[test] + 10) else test
