@@ -7,7 +7,6 @@ struct row_range
     int bottom;
 
     bool has(int row) const { return row >= top && row <= bottom; }
-    bool is_one(int row) const { return row == top && row == bottom; }
 };
 
 /// The pixel rows between which Qwt keeps a line: what leaves them is cut off, with one more vertex

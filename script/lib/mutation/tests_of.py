@@ -2,7 +2,8 @@
 
 READING = (
     "tst_text_lines tst_file_kind tst_number tst_wel_reader tst_bek_reader tst_dkl_reader "
-    "tst_name_listing tst_line_text tst_row_log tst_single_pass tst_random_files"
+    "tst_name_listing tst_line_text tst_line_blocks tst_row_log tst_single_pass "
+    "tst_random_files"
 )
 DRAWING = (
     "tst_curves tst_plot_pair tst_axis_scales tst_store tst_lifetimes tst_plot_commands "
@@ -26,8 +27,8 @@ TABLE = [
     ("plot/reading/dkl", "tst_dkl_reader", READING),
     ("plot/reading/name_listing", "tst_name_listing", READING),
     ("plot/reading/number", "tst_number", READING),
-    ("plot/reading/plain_decimal", "tst_number", READING),
-    ("plot/reading/text_lines", "tst_text_lines", READING),
+    ("plot/reading/plain_decimal", "tst_line_text tst_number", READING),
+    ("plot/reading/text_lines", "tst_text_lines tst_line_blocks", READING),
     ("plot/reading/tokens", "tst_line_text tst_number", READING),
     ("plot/reading/row_log", "tst_row_log", READING),
     ("plot/reading/line_text", "tst_line_text tst_bek_reader tst_name_listing", READING),
