@@ -28,6 +28,7 @@ private slots:
     void plots_first_without_a_pass();
     void coupling_ends_with_the_upper_plot();
     void second_document_on_the_same_plots();
+    void slot_before_a_pass();
 };
 
 void tst_lifetimes::document_first()
@@ -105,6 +106,14 @@ void tst_lifetimes::second_document_on_the_same_plots()
     QCOMPARE(plots.lower->itemList().size(), 2);
     second.reset();
     QVERIFY(plots.lower->itemList().isEmpty());
+}
+
+void tst_lifetimes::slot_before_a_pass()
+{
+    const plot_pair plots;
+    plots.document->last_scaled_plot = 7;
+    plots.document->scaleDivChangedSlot();
+    QCOMPARE(plots.document->last_scaled_plot, 7);
 }
 
 QTEST_MAIN(tst_lifetimes)

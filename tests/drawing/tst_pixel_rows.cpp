@@ -143,6 +143,7 @@ private slots:
     void moved_scales();
     void rows_at_the_half();
     void rows_that_come_near();
+    void scales_that_differ_in_one_number();
 };
 
 void tst_pixel_rows::window_of_rows()
@@ -260,6 +261,35 @@ void tst_pixel_rows::rows_that_come_near()
             rows.set_scale(scale, {0, 100});
             compare(rows, literal_rows(values, scale), {0, 100}, 0, 200);
         }
+    }
+}
+
+// And windows that do.
+void tst_pixel_rows::scales_that_differ_in_one_number()
+{
+    QRandomGenerator random(9);
+    const std::vector<double> values = random_values(300, random);
+    const value_blocks ranges(values);
+    pixel_rows rows(values, ranges);
+    struct step
+    {
+        QwtScaleMap scale;
+        row_window window;
+    };
+    const step steps[] = {
+        {scale_from(0.0, 100.0, 100.0, 0.0), {10, 90}},
+        {scale_from(0.0, 100.0, 100.0, 0.0), {20, 90}},
+        {scale_from(0.0, 100.0, 100.0, 0.0), {20, 70}},
+        {scale_from(0.0, 90.0, 100.0, 0.0), {20, 70}},
+        {scale_from(5.0, 90.0, 100.0, 0.0), {20, 70}},
+        {scale_from(5.0, 90.0, 95.0, 0.0), {20, 70}},
+        {scale_from(5.0, 90.0, 95.0, 7.0), {20, 70}},
+        {scale_from(6.0, 90.0, 95.0, 7.0), {20, 70}},
+        {scale_from(6.0, 90.0, 95.0, 7.0), {20, 70}},
+    };
+    for (const auto& [scale, window] : steps) {
+        rows.set_scale(scale, window);
+        compare(rows, literal_rows(values, scale), window, 0, 300);
     }
 }
 

@@ -130,6 +130,8 @@ void tst_sampled_line::points()
     QCOMPARE(line.pixel(1), QPoint(100, 30));
     QVERIFY((line.window() == row_window{0, 40}));
     QCOMPARE(line.rows_of(0, 3).row(2), 20);
+    QCOMPARE(pixel_of(x_scale, 1e300), 1'000'000'000);
+    QCOMPARE(pixel_of(x_scale, -1e300), -1'000'000'000);
 }
 
 // Times may stand still and jump.

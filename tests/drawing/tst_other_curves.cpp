@@ -1,0 +1,224 @@
+#include "plot/drawing/long_curve.h"
+
+#include <QImage>
+#include <QPainter>
+#include <QPicture>
+#include <QTest>
+
+#include <qwt_painter.h>
+#include <qwt_scale_map.h>
+
+#include <cmath>
+#include <functional>
+
+namespace {
+
+constexpr QSize canvas(301, 201);
+constexpr int points = 3000; // ten in each column
+
+QList<double> times()
+{
+    QList<double> values;
+    for (int i = 0; i < points; ++i)
+        values.append(i);
+    return values;
+}
+
+QList<double> waves()
+{
+    QList<double> values;
+    for (int i = 0; i < points; ++i)
+        values.append(std::sin(i / 7.0) * std::cos(i / 500.0));
+    return values;
+}
+
+QwtScaleMap scale(double from, double to, double from_pixel, double to_pixel)
+{
+    QwtScaleMap map;
+    map.setScaleInterval(from, to);
+    map.setPaintInterval(from_pixel, to_pixel);
+    return map;
+}
+
+const QwtScaleMap x_scale = scale(0.0, points - 1, 0.0, canvas.width() - 1);
+const QwtScaleMap y_scale = scale(-1.0, 1.0, canvas.height() - 1, 0.0);
+
+using curve_change = std::function<void(QwtPlotCurve&)>;
+using drawing = std::function<void(const QwtPlotCurve&, QPainter&)>;
+
+void draw_all(const QwtPlotCurve& curve, QPainter& painter)
+{
+    curve.draw(&painter, x_scale, y_scale, QRectF(QPointF(), canvas));
+}
+
+void draw_unclipped(const QwtPlotCurve& curve, QPainter& painter)
+{
+    painter.setClipping(false);
+    draw_all(curve, painter);
+}
+
+void draw_antialiased(const QwtPlotCurve& curve, QPainter& painter)
+{
+    painter.setRenderHint(QPainter::Antialiasing);
+    draw_all(curve, painter);
+}
+
+// As a vector format gets it, which has no pixels.
+void draw_recorded(const QwtPlotCurve& curve, QPainter& painter)
+{
+    QPicture record;
+    QPainter recorder(&record);
+    draw_all(curve, recorder);
+    recorder.end();
+    record.play(&painter);
+}
+
+void draw_unaligned(const QwtPlotCurve& curve, QPainter& painter)
+{
+    QwtPainter::setRoundingAlignment(false);
+    draw_all(curve, painter);
+    QwtPainter::setRoundingAlignment(true);
+}
+
+void draw_unsplit(const QwtPlotCurve& curve, QPainter& painter)
+{
+    QwtPainter::setPolylineSplitting(false);
+    draw_all(curve, painter);
+    QwtPainter::setPolylineSplitting(true);
+}
+
+drawing part_drawn(int from, int to)
+{
+    return [=](const QwtPlotCurve& curve, QPainter& painter) {
+        curve.drawSeries(&painter, x_scale, y_scale, QRectF(QPointF(), canvas), from, to);
+    };
+}
+
+// Clip rectangles that reach farther than rows are kept.
+drawing drawn_in(const QRectF& rectangle)
+{
+    return [=](const QwtPlotCurve& curve, QPainter& painter) {
+        painter.setClipping(false);
+        curve.draw(&painter, x_scale, y_scale, rectangle);
+    };
+}
+
+template <class curve_class>
+QImage picture(const curve_change& change, const drawing& draw)
+{
+    curve_class curve;
+    curve.setSamples(times(), waves());
+    curve.setPen(Qt::blue, 2.0, Qt::SolidLine);
+    change(curve);
+    QImage image(canvas, QImage::Format_RGB32);
+    image.fill(Qt::white);
+    QPainter painter(&image);
+    painter.setClipRect(image.rect());
+    draw(curve, painter);
+    return image;
+}
+
+int different_pixels(const QImage& one, const QImage& other)
+{
+    int count = 0;
+    for (int y = 0; y < one.height(); ++y) {
+        for (int x = 0; x < one.width(); ++x)
+            count += one.pixel(x, y) == other.pixel(x, y) ? 0 : 1;
+    }
+    return count;
+}
+
+void leave_alone(QwtPlotCurve& /*curve*/) {}
+
+} // namespace
+
+class tst_other_curves : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void curve_like_qwt_data();
+    void curve_like_qwt();
+    void drawing_like_qwt_data();
+    void drawing_like_qwt();
+    void bounding_rectangle_of_other_samples();
+};
+
+Q_DECLARE_METATYPE(curve_change)
+Q_DECLARE_METATYPE(drawing)
+
+// What is not a mere line of the usual samples is left to Qwt, pixel for pixel.
+void tst_other_curves::curve_like_qwt_data()
+{
+    QTest::addColumn<curve_change>("change");
+    const auto row = [](const char* name, const curve_change& change) {
+        QTest::newRow(name) << change;
+    };
+    row("filled", [](QwtPlotCurve& curve) { curve.setBrush(Qt::red); });
+    row("fitted", [](QwtPlotCurve& curve) { curve.setCurveAttribute(QwtPlotCurve::Fitted); });
+    row("without clipping",
+        [](QwtPlotCurve& curve) { curve.setPaintAttribute(QwtPlotCurve::ClipPolygons, false); });
+    row("without filter",
+        [](QwtPlotCurve& curve) { curve.setPaintAttribute(QwtPlotCurve::FilterPoints, false); });
+    row("with the other filter", [](QwtPlotCurve& curve) {
+        curve.setPaintAttribute(QwtPlotCurve::FilterPointsAggressive, true);
+    });
+    row("dashed", [](QwtPlotCurve& curve) { curve.setPen(Qt::blue, 2.0, Qt::DashLine); });
+    row("thin", [](QwtPlotCurve& curve) { curve.setPen(Qt::blue, 1.0, Qt::SolidLine); });
+    row("translucent",
+        [](QwtPlotCurve& curve) { curve.setPen(QColor(0, 0, 255, 254), 2.0, Qt::SolidLine); });
+    row("other samples", [](QwtPlotCurve& curve) {
+        curve.setSamples(QList<QPointF>{{0.0, 0.0}, {100.0, 0.5}, {2000.0, -0.5}});
+    });
+    row("no samples", [](QwtPlotCurve& curve) { curve.setSamples(QList<QPointF>()); });
+}
+
+void tst_other_curves::curve_like_qwt()
+{
+    QFETCH(curve_change, change);
+    QCOMPARE(picture<long_curve>(change, draw_all), picture<QwtPlotCurve>(change, draw_all));
+}
+
+void tst_other_curves::drawing_like_qwt_data()
+{
+    QTest::addColumn<drawing>("draw");
+    QTest::addColumn<int>("allowed"); // pixels that may differ
+    const auto row = [](const char* name, const drawing& draw, int allowed = 0) {
+        QTest::newRow(name) << draw << allowed;
+    };
+    constexpr int few = canvas.width() * canvas.height() / 10'000;
+    row("plain", draw_all, few);
+    row("unclipped", draw_unclipped, few);
+    row("antialiased", draw_antialiased);
+    row("recorded", draw_recorded);
+    row("unaligned", draw_unaligned);
+    row("unsplit", draw_unsplit);
+    row("without the first", part_drawn(1, points - 1));
+    row("without the last", part_drawn(0, points - 2));
+    row("some", part_drawn(700, 2000));
+    row("far up", drawn_in(QRectF(0, -20'000, canvas.width(), 20'100)));
+    row("far down", drawn_in(QRectF(0, 0, canvas.width(), 20'000)));
+}
+
+void tst_other_curves::drawing_like_qwt()
+{
+    QFETCH(drawing, draw);
+    QFETCH(int, allowed);
+    const QImage actual = picture<long_curve>(leave_alone, draw);
+    const QImage expected = picture<QwtPlotCurve>(leave_alone, draw);
+    QCOMPARE_LE(different_pixels(actual, expected), allowed);
+}
+
+void tst_other_curves::bounding_rectangle_of_other_samples()
+{
+    QwtPlotCurve expected;
+    long_curve curve;
+    QCOMPARE(curve.boundingRect(), expected.boundingRect());
+    const QList<QPointF> samples{{1.0, 4.0}, {0.0, 2.0}, {5.0, 3.0}};
+    expected.setSamples(samples);
+    curve.setSamples(samples);
+    QCOMPARE(curve.boundingRect(), expected.boundingRect());
+}
+
+QTEST_MAIN(tst_other_curves)
+#include "tst_other_curves.moc"
