@@ -74,6 +74,7 @@ private slots:
     void listed_names();
     void names_add_up();
     void lists_of_unequal_length();
+    void only_the_spillway_takes_a_tail();
     void tail_of_the_levels_data();
     void tail_of_the_levels();
     void volume_of_a_basin_table_sets_its_axes();
@@ -202,6 +203,20 @@ void tst_curves::lists_of_unequal_length()
     plots.document->series[10] = {5, 6};
     plots.plot();
     QCOMPARE(plots.document->curves[0]->dataSize(), 2U);
+}
+
+void tst_curves::only_the_spillway_takes_a_tail()
+{
+    for (const expected_curve& expected : expected_curves) {
+        const plot_pair plots;
+        plots.document->plot_mode = expected.mode;
+        plots.document->series[expected.x] = {0, 1};
+        plots.document->series[expected.y] = {5, 6, 7};
+        plots.plot();
+        const bool is_spillway = expected.mode == 9 && expected.curve == 1;
+        QCOMPARE(samples(*plots.document->curves[expected.curve], false),
+                 is_spillway ? (QList<double>{6, 7}) : (QList<double>{5, 6}));
+    }
 }
 
 void tst_curves::tail_of_the_levels_data()

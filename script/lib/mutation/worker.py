@@ -11,7 +11,7 @@ from pathlib import Path
 
 from mutants import Mutant
 
-MEMORY = 6 << 30  # of a test that runs wild, in bytes
+MEMORY = 6 << 30  # that a test may write to, in bytes; Qt PDF reserves far more
 # What the tests would notice in the debug build of the sanitizers, the assertions tell here.
 FLAGS = "-O1 -w -D_GLIBCXX_ASSERTIONS -DQT_FORCE_ASSERTS"
 # Random tests are long by their numbers; fewer are enough to notice one step.
@@ -21,7 +21,7 @@ ENVIRONMENT = SHORTER | {"MALLOC_PERTURB_": "165"}
 
 
 def _limit_memory():
-    resource.setrlimit(resource.RLIMIT_AS, (MEMORY, MEMORY))
+    resource.setrlimit(resource.RLIMIT_DATA, (MEMORY, MEMORY))
     resource.setrlimit(resource.RLIMIT_CORE, (0, 0))
 
 
