@@ -218,8 +218,9 @@ void tst_random_walk::walk()
     }
     // A walk past an empty window would show little.
     QVERIFY2(documents > walk_length() / 3, QByteArray::number(documents));
-    if (walk_length() > 2000) // a shorter walk may miss what is done seldom
-        QCOMPARE(done.size(), random_user::kinds_of_action());
+    if (walk_length() <= 2000) // a shorter walk may miss what is done seldom
+        return;
+    QCOMPARE(done.size(), random_user::kinds_of_action());
     QVERIFY(!QDir(driver.folder.path()).entryList({"*.png"}).isEmpty());
 }
 
