@@ -146,7 +146,7 @@ void imitate(QwtPlot& few, const QwtPlot& many, const time_range& range)
 // Both must show nearly the same: else their times would not be comparable.
 void require_same_picture(QwtPlot& few, QwtPlot& many)
 {
-    constexpr double most = 0.05;
+    constexpr double most = 0.1;
     const QImage one = few.canvas()->grab().toImage();
     const QImage other = many.canvas()->grab().toImage();
     qsizetype different = 0;

@@ -76,13 +76,22 @@ void tst_sampled_line::ranges_of_blocks()
 
 void tst_sampled_line::finite_values()
 {
-    for (const std::size_t size : {1, 8, 70, 200}) {
+    for (const std::size_t size : {1U, 8U, 70U, 200U}) {
         for (std::size_t i = 0; i < size; ++i) {
             for (const double odd : {infinity, -infinity, no_number}) {
                 std::vector<double> values(size, 2.0);
                 values[i] = odd;
                 QVERIFY(!value_blocks(values).all_are_finite());
-                QVERIFY(!sampled_line(times(size), values).is_orderly());
+                const std::vector<double> x = times(size);
+                const sampled_line line(x, values);
+                QVERIFY(line.is_orderly() && !line.is_finite());
+                const auto number = static_cast<qsizetype>(i);
+                const qsizetype block = number / value_blocks::length * value_blocks::length;
+                const qsizetype behind = block + value_blocks::length;
+                QVERIFY(!line.is_finite(number, number + 1));
+                QVERIFY(!line.is_finite(0, line.size()));
+                QVERIFY(line.is_finite(0, block));
+                QVERIFY(behind >= line.size() || line.is_finite(behind, line.size()));
             }
         }
     }
@@ -90,7 +99,7 @@ void tst_sampled_line::finite_values()
 
 void tst_sampled_line::order_of_times()
 {
-    for (const std::size_t size : {1, 2, 3, 1024, 1025, 1026, 3000}) {
+    for (const std::size_t size : {1U, 2U, 3U, 1024U, 1025U, 1026U, 3000U}) {
         const std::vector<double> rising = times(size);
         QVERIFY(is_orderly(rising));
         QVERIFY(is_orderly(std::vector<double>(size, 5.0)));

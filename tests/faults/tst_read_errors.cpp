@@ -127,9 +127,11 @@ void tst_read_errors::error_at_every_byte_data()
     const QByteArray basins = basin_table();
     const QByteArray curves = throttle_curves();
     QTest::newRow("hydrographs") << "x_K.wel" << node_file(9) << &read_hydrographs
-                                 << &read_literally;
-    QTest::newRow("names of basins") << "x.bek" << basins << &list_basins << &read_literally;
-    QTest::newRow("names of curves") << "x.dkl" << curves << &list_curves << &read_literally;
+                                 << literal_reader(read_literally);
+    QTest::newRow("names of basins")
+        << "x.bek" << basins << &list_basins << literal_reader(read_literally);
+    QTest::newRow("names of curves")
+        << "x.dkl" << curves << &list_curves << literal_reader(read_literally);
     QTest::newRow("basin") << "x.bek" << basins << &read_basin << &basin_literally;
     QTest::newRow("curve") << "x.dkl" << curves << &read_curve << &curve_literally;
 }
