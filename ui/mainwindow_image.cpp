@@ -4,6 +4,7 @@
 #include "ui/image_file_name.h"
 #include "ui_mainwindow.h"
 
+#include <QFile>
 #include <QFileInfo>
 #include <QPainter>
 #include <QPixmap>
@@ -38,7 +39,9 @@ QPixmap stacked(const QPixmap& upper, const QPixmap& lower)
 bool may_be_written(const QString& file)
 {
     const QFileInfo place(file);
-    return !file.contains(QChar(u'\0')) && (place.isFile() || !place.exists());
+    if (file.contains(QChar(u'\0')))
+        return false;
+    return !place.exists() || (place.isFile() && QFile(file).open(QIODevice::ReadWrite));
 }
 
 // At once and whole, so that no other viewer that saves or shows the same picture meets half of it.

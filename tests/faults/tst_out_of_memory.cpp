@@ -1,5 +1,5 @@
 #include "plot/korimo_plot.h"
-#include "tests/support/limits.h"
+#include "tests/faults/scarce_memory.h"
 #include "tests/support/modal_boxes.h"
 #include "tests/support/named_curves.h"
 #include "tests/support/write_file.h"
@@ -15,21 +15,7 @@
 
 namespace {
 
-constexpr qsizetype room = 16 << 20; // as the options of the sanitizer say in CMakeLists.txt
-
-// While it lives, the memory ends soon. The sanitizer itself needs more than any limit; it refuses
-// what is larger than its options allow.
-#ifdef __SANITIZE_ADDRESS__
-struct scarce_memory
-{
-    ~scarce_memory() {}
-};
-#else
-struct scarce_memory
-{
-    const lower_limit limit{RLIMIT_AS, used_addresses() + room};
-};
-#endif
+constexpr qsizetype room = scarce_memory::largest;
 
 bool has_no_values(const korimo_plot& document)
 {

@@ -1,6 +1,6 @@
 #include "tests/support/limits.h"
 
-#include <QFile>
+#include <QtGlobal>
 
 #include <linux/capability.h>
 #include <sys/syscall.h>
@@ -57,13 +57,4 @@ lower_limit::lower_limit(int resource, rlim_t limit)
 lower_limit::~lower_limit()
 {
     setrlimit(static_cast<__rlimit_resource>(resource), &before);
-}
-
-rlim_t used_addresses()
-{
-    QFile file(QStringLiteral("/proc/self/statm"));
-    if (!file.open(QIODevice::ReadOnly))
-        qFatal("cannot read the size of the test");
-    const QByteArray pages = file.readAll().split(' ').first();
-    return static_cast<rlim_t>(pages.toLongLong() * sysconf(_SC_PAGESIZE));
 }

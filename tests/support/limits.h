@@ -31,6 +31,3 @@ private:
     int resource;
     rlimit before{};
 };
-
-/// The bytes of addresses that the process uses, as RLIMIT_AS counts them.
-rlim_t used_addresses();
