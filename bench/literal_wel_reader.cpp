@@ -74,12 +74,17 @@ qsizetype bench::read_numbers_only(const QString& path, qsizetype columns, qsize
     for (auto& list : lists)
         list.reserve(static_cast<std::size_t>(rows));
     qsizetype count = 0;
+    auto list = lists.begin();
     while (true) {
-        at = std::find_if(at, end, [](char c) { return c != ' ' && c != '\n'; });
+        while (at != end && (*at == ' ' || *at == '\n'))
+            ++at;
         if (at == end)
             return count;
         double value = 0.0;
         at = std::from_chars(at, end, value).ptr;
-        lists[static_cast<std::size_t>(count++ % columns)].push_back(value);
+        list->push_back(value);
+        ++count;
+        if (++list == lists.end())
+            list = lists.begin();
     }
 }
