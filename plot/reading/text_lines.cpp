@@ -73,13 +73,14 @@ void text_lines::fill()
 
 void text_lines::append(QByteArrayView bytes)
 {
+    QByteArray utf8;
     if (transcoder) {
         const QString text = transcoder->decode(bytes);
-        const QByteArray utf8 = encoder.encode(text);
-        buffer.append(utf8);
-    } else {
-        buffer.append(bytes);
+        utf8 = encoder.encode(text);
+        bytes = utf8;
     }
+    buffer.append(bytes);
+    has_returns = has_returns || bytes.contains('\r');
 }
 
 void text_lines::detect_encoding()
@@ -99,6 +100,8 @@ void text_lines::detect_encoding()
 // not become UTF-8 without it. So a line with returns inside is decoded first.
 QByteArrayView text_lines::without_returns(QByteArrayView line)
 {
+    if (!has_returns)
+        return line;
     while (line.endsWith('\r'))
         line.chop(1);
     if (!line.contains('\r'))

@@ -56,11 +56,12 @@ void read_wel(text_lines& lines, QStringView file_name, const wel_target& target
     row values;
     QByteArrayView line;
     while (lines.next(line)) {
-        if (has(line, "Ganglinien")) {
+        const bool ok = read_numbers(line, values);
+        // No number has the word in it, so only the few other lines are searched for it.
+        if (!ok && has(line, "Ganglinien")) {
             target.title = decoded(line);
             continue;
         }
-        const bool ok = read_numbers(line, values);
         log_row(line, ok);
         if (!ok || !kind)
             continue;
