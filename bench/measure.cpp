@@ -12,6 +12,8 @@ const char* verdict(const figure& each)
 {
     if (!each.is_measured())
         return "not measured";
+    if (!each.limit)
+        return "told";
     return each.keeps_limit() ? "ok" : "over";
 }
 
@@ -30,20 +32,25 @@ std::string ratio(const figure& each)
     return amount(each.is_measured() ? each.ratio() : 0.0, "");
 }
 
+std::string limit(const figure& each)
+{
+    return amount(each.limit.value_or(0.0), "");
+}
+
 void print(const figure& each)
 {
-    std::printf("%-28s %12s  %6s of %-24s %12s  limit %5.2f  %s\n", each.what.c_str(),
+    std::printf("%-28s %12s  %6s of %-24s %12s  limit %5s  %s\n", each.what.c_str(),
                 amount(each.milliseconds, each.unit).c_str(), ratio(each).c_str(),
-                each.against.c_str(), amount(each.base_milliseconds, each.unit).c_str(), each.limit,
-                verdict(each));
+                each.against.c_str(), amount(each.base_milliseconds, each.unit).c_str(),
+                limit(each).c_str(), verdict(each));
 }
 
 void append(std::FILE* results, const figure& each)
 {
-    std::fprintf(results, "%s\t%s\t%s\t%s, %s\t%s\t%.2f\t%s\n", each.goal.c_str(),
-                 each.what.c_str(), amount(each.milliseconds, each.unit).c_str(),
+    std::fprintf(results, "%s\t%s\t%s\t%s, %s\t%s\t%s\t%s\n", each.goal.c_str(), each.what.c_str(),
+                 amount(each.milliseconds, each.unit).c_str(),
                  amount(each.base_milliseconds, each.unit).c_str(), each.against.c_str(),
-                 ratio(each).c_str(), each.limit, verdict(each));
+                 ratio(each).c_str(), limit(each).c_str(), verdict(each));
 }
 
 // Without the file nothing would be known of these figures in the end: that must not go unnoticed.

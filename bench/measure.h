@@ -1,6 +1,8 @@
 #pragma once
 
+#include <algorithm>
 #include <chrono>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -14,13 +16,18 @@ struct figure
     double milliseconds = 0.0; ///< or the amount, if `unit` is another
     std::string against;
     double base_milliseconds = 0.0;
-    double limit = 0.0;
+    std::optional<double> limit; ///< none if the figure is only told
     std::string goal = "";
     std::string unit = "ms";
+    bool is_deviation = false; ///< whether it may not be that much smaller than its base either
 
-    double ratio() const { return milliseconds / base_milliseconds; }
+    double ratio() const
+    {
+        const double times = milliseconds / base_milliseconds;
+        return is_deviation ? std::max(times, 1.0 / times) : times;
+    }
     bool is_measured() const { return milliseconds > 0.0 && base_milliseconds > 0.0; }
-    bool keeps_limit() const { return is_measured() && ratio() <= limit; }
+    bool keeps_limit() const { return is_measured() && (!limit || ratio() <= *limit); }
 };
 
 /// The shortest time in milliseconds of `runs` runs: what disturbs a run only makes it longer.
@@ -41,7 +48,7 @@ double shortest(int runs, const function& run)
 
 /// Prints a line for each figure and answers whether all of them keep their limits. Appends them to
 /// the file that the environment variable KORIMO_BENCH_RESULTS names, one a line, with tabs between
-/// goal, what, amount, base, ratio, limit and verdict.
+/// goal, what, amount, base, ratio, limit ("-" if there is none) and verdict.
 bool report(const std::vector<figure>& figures);
 
 } // namespace bench

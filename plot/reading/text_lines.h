@@ -41,7 +41,7 @@ private:
     QByteArray rewritten;                         // a line that had to be changed
     std::optional<QStringDecoder> transcoder;     // set for UTF-16 and UTF-32 only
     QStringEncoder encoder{QStringEncoder::Utf8}; // keeps half a pair until the next block
-    bool has_returns = false; // whether a carriage return has been read so far
+    bool has_returns = false;                     // whether a carriage return has been read so far
     bool at_end = false;
     bool file_is_empty = false;
     bool gave_a_line = false;
