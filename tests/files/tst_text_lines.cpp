@@ -1,12 +1,16 @@
 #include "plot/reading/text_lines.h"
 #include "tests/support/write_file.h"
 
-#include <QBuffer>
 #include <QFile>
+#include <QIODevice>
 #include <QRandomGenerator>
+#include <QStringEncoder>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTextStream>
+
+#include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -27,16 +31,54 @@ QStringList stream_lines(const QByteArray& bytes)
     return lines;
 }
 
-QStringList our_lines(QByteArray bytes)
+constexpr qsizetype block_size = 65'536;
+
+// Gives at most so many bytes at once, as a pipe does: blocks end anywhere, within characters too.
+class in_pieces : public QIODevice
 {
-    QBuffer buffer(&bytes);
-    buffer.open(QIODevice::ReadOnly);
-    text_lines lines(buffer);
+public:
+    in_pieces(QByteArray bytes, qsizetype most)
+        : rest(std::move(bytes))
+        , most(most)
+    {
+        open(QIODevice::ReadOnly | QIODevice::Unbuffered);
+    }
+    bool isSequential() const override { return true; }
+
+protected:
+    qint64 readData(char* data, qint64 wanted) override
+    {
+        const qsizetype count = std::min({wanted, most, rest.size()});
+        std::copy_n(rest.cbegin(), count, data);
+        rest.remove(0, count);
+        return count;
+    }
+    qint64 writeData(const char*, qint64) override { return -1; }
+
+private:
+    QByteArray rest;
+    qsizetype most;
+};
+
+QStringList our_lines(const QByteArray& bytes, qsizetype most_at_once = block_size)
+{
+    in_pieces device(bytes, most_at_once);
+    text_lines lines(device);
     QStringList result;
     QByteArrayView line;
     while (lines.next(line))
         result.append(decoded(line));
     return result;
+}
+
+// A text of some blocks in any encoding, with lines of all lengths.
+QString long_text()
+{
+    QString text;
+    for (int i = 0; i < 900; ++i)
+        text +=
+            QString(i % 331, u'0') + u"\U0001F4A7 m\u00fcNHN \u20ac"_s + (i % 7 ? "\n" : "\r\n");
+    return text;
 }
 
 } // namespace
@@ -49,6 +91,10 @@ private slots:
     void lines_data();
     void lines();
     void lines_longer_than_a_block();
+    void ends_near_the_border_of_a_block_data();
+    void ends_near_the_border_of_a_block();
+    void blocks_of_an_encoding_data();
+    void blocks_of_an_encoding();
     void pair_of_surrogates_across_blocks();
     void random_bytes_as_a_text_stream();
 };
@@ -115,10 +161,55 @@ void tst_text_lines::lines_longer_than_a_block()
     QCOMPARE(our_lines(bytes), (QStringList{longest, "1", longest, longest}));
 }
 
+void tst_text_lines::ends_near_the_border_of_a_block_data()
+{
+    QTest::addColumn<QByteArray>("before");
+    QTest::addColumn<QByteArray>("end");
+    QTest::newRow("LF") << ""_ba << "\n"_ba;
+    QTest::newRow("CR LF") << ""_ba << "\r\n"_ba;
+    QTest::newRow("CR in the block before") << "1\r2"_ba << "\n"_ba;
+    QTest::newRow("CR in the line before") << "\r1\n"_ba << "\r2\n"_ba;
+    QTest::newRow("UTF-8 mark") << "\xEF\xBB\xBF"_ba << "\n"_ba;
+}
+
+void tst_text_lines::ends_near_the_border_of_a_block()
+{
+    QFETCH(QByteArray, before);
+    QFETCH(QByteArray, end);
+    for (const qsizetype border : {block_size, 2 * block_size, 3 * block_size}) {
+        for (qsizetype at = border - 3; at <= border + 3; ++at) {
+            const QByteArray bytes = before.leftJustified(at, 'x') + end + "3" + end + "4";
+            QCOMPARE(our_lines(bytes), stream_lines(bytes));
+        }
+    }
+}
+
+void tst_text_lines::blocks_of_an_encoding_data()
+{
+    QTest::addColumn<QStringConverter::Encoding>("encoding");
+    QTest::newRow("UTF-8") << QStringConverter::Utf8;
+    QTest::newRow("UTF-16 LE") << QStringConverter::Utf16LE;
+    QTest::newRow("UTF-16 BE") << QStringConverter::Utf16BE;
+    QTest::newRow("UTF-32 LE") << QStringConverter::Utf32LE;
+    QTest::newRow("UTF-32 BE") << QStringConverter::Utf32BE;
+}
+
+// Whole blocks, and pieces that end at every byte of a character.
+void tst_text_lines::blocks_of_an_encoding()
+{
+    QFETCH(QStringConverter::Encoding, encoding);
+    QStringEncoder encoder(encoding, QStringConverter::Flag::WriteBom);
+    const QByteArray bytes = encoder.encode(long_text());
+    QVERIFY(bytes.size() > 2 * block_size);
+    const QStringList expected = stream_lines(bytes);
+    QCOMPARE(expected.size(), 900);
+    for (const qsizetype most : {block_size, qsizetype(4099), qsizetype(7)})
+        QCOMPARE(our_lines(bytes, most), expected);
+}
+
 // The first block ends behind the first half of the pair.
 void tst_text_lines::pair_of_surrogates_across_blocks()
 {
-    constexpr qsizetype block_size = 65'536;
     const QByteArray pair("\x3D\xD8\xA7\xDC", 4);
     const QByteArray line = QByteArray("x\0", 2).repeated((block_size - 4) / 2) + pair;
     const QByteArray bytes = "\xFF\xFE" + line;
@@ -152,7 +243,9 @@ void tst_text_lines::random_bytes_as_a_text_stream()
         QByteArray bytes;
         for (int n = random.bounded(1, 40); n > 0; --n)
             bytes += pieces[random.bounded(pieces.size())];
-        QCOMPARE(our_lines(bytes), stream_lines(bytes));
+        const QStringList expected = stream_lines(bytes);
+        QCOMPARE(our_lines(bytes), expected);
+        QCOMPARE(our_lines(bytes, random.bounded(4, 12)), expected);
     }
 }
 
