@@ -11,6 +11,8 @@
 
 namespace {
 
+using namespace Qt::StringLiterals;
+
 // A line of a BEK file: the identifier, then the four values in their columns.
 QByteArray line(const char* identifier, const char* level, const char* outlet, const char* spillway,
                 const char* volume)
@@ -46,6 +48,8 @@ private slots:
     void short_line();
     void silent_when_it_cannot_be_opened();
     void case_of_the_identifier_matters();
+    void columns_count_characters();
+    void identifiers_beyond_latin_letters();
     void slot_reads_a_file();
 };
 
@@ -124,6 +128,25 @@ void tst_bek_reader::case_of_the_identifier_matters()
 }
 
 // The basin stands in two blocks of the file, up to its crest and above it.
+void tst_bek_reader::columns_count_characters()
+{
+    const QByteArray bytes = line("B1   HRB M*hlbach", "1", "10", "", "0") +
+                             line("     *", "2", "20", "", "0") +
+                             line("B*   HRB Oberdorf", "3", "30", "", "0");
+    const QByteArray text = QByteArray(bytes).replace('*', "\xC3\xBC");
+    QCOMPARE(read(text, u"B1   "_s)[1], (values{1, 2}));
+    QCOMPARE(read(text, u"B1   "_s)[11], (values{10, 20}));
+    QCOMPARE(read(text, u"B\u00fc   "_s)[11], (values{30}));
+}
+
+// A question mark stands for what another encoding cannot write; it is a character of its own here.
+void tst_bek_reader::identifiers_beyond_latin_letters()
+{
+    const QByteArray bytes = line("B?", "1", "10", "", "0") + line("B1", "2", "20", "", "0");
+    QCOMPARE(read(bytes, u"B\u0416   "_s)[1], values());
+    QCOMPARE(read(bytes, u"B?   "_s)[1], (values{1}));
+}
+
 void tst_bek_reader::slot_reads_a_file()
 {
     const plot_pair plots;

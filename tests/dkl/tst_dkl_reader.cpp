@@ -49,6 +49,7 @@ private slots:
     void header();
     void rejected_line_is_logged();
     void header_needs_three_parts();
+    void header_beyond_ascii();
     void cannot_be_opened();
     void slot_reads_a_file();
 };
@@ -142,6 +143,16 @@ void tst_dkl_reader::header_needs_three_parts()
 {
     QCOMPARE(read(header_line() + "1\n1 1\n", "Sp_12").title, QString());
     QCOMPARE(read(header_line() + "1\n1 1\n", "Sp__12_Auslass_2").title, "Sp__12_Auslass_2");
+}
+
+// A question mark stands for what another encoding cannot write; it is a character of its own here.
+void tst_dkl_reader::header_beyond_ascii()
+{
+    const QByteArray umlaut = "3 \xC3\x9C"
+                              "berlauf km Sp = 1 m\xC3\xBCNHN\n1\n1 2\n";
+    QCOMPARE(read(umlaut, QStringLiteral("Sp_3_\u00dcberlauf")).series[1], values{1});
+    QCOMPARE(read(umlaut, "Sp_3_berlauf").series[1], values{1});
+    QCOMPARE(read("3 ? km Sp\n1\n1 2\n", QStringLiteral("Sp_3_\u0416")).series[1], values());
 }
 
 void tst_dkl_reader::cannot_be_opened()
