@@ -163,6 +163,7 @@ void require_same_picture(QwtPlot& few, QwtPlot& many)
 std::vector<times> steps_of_all_levels(shown_file& file)
 {
     std::vector<times> all;
+    all.reserve(levels);
     for (int level = 0; level < levels; ++level)
         all.push_back(file.steps(file.level(level)));
     return all;
