@@ -234,9 +234,11 @@ void tst_pixel_rows::moved_scales()
 // A move by whole rows may round such a value otherwise than before.
 void tst_pixel_rows::rows_at_the_half()
 {
-    std::vector<double> values;
-    for (int i = 0; i < 300; ++i)
-        values.push_back(0.1 * (i % 7) + (i / 100) * 0.05);
+    std::vector<double> values(300);
+    for (std::size_t i = 0; i < values.size(); ++i) {
+        const std::size_t hundreds = i / 100;
+        values[i] = 0.1 * static_cast<double>(i % 7) + 0.05 * static_cast<double>(hundreds);
+    }
     const value_blocks ranges(values);
     pixel_rows rows(values, ranges);
     for (int i = 0; i < 400; ++i) {

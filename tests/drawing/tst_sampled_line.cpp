@@ -62,9 +62,9 @@ void tst_sampled_line::ranges_of_blocks()
         const std::vector<double> values = random_values(static_cast<std::size_t>(size), random);
         const value_blocks blocks(values);
         QCOMPARE(blocks.count(), (size + 63) / 64);
-        for (int i = 0; i < blocks.count(); ++i) {
+        for (qsizetype i = 0; i < blocks.count(); ++i) {
             const auto first = values.begin() + 64 * i;
-            const auto end = values.begin() + std::min(64 * (i + 1), size);
+            const auto end = values.begin() + std::min<qsizetype>(64 * (i + 1), size);
             QCOMPARE(blocks.block(i).low, *std::min_element(first, end));
             QCOMPARE(blocks.block(i).high, *std::max_element(first, end));
         }

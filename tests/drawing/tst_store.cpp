@@ -101,7 +101,7 @@ void tst_store::new_names()
     plots.document->set_curve_names(given);
     QCOMPARE(plots.document->get_curve_names(), listed);
     for (std::size_t i = 0; i < 4; ++i) {
-        const QString title = titles[static_cast<qsizetype>(i)];
+        const QString& title = titles[static_cast<qsizetype>(i)];
         QCOMPARE(plots.document->curves[i]->title().text(), title);
         QCOMPARE(plots.document->curve_title[i], title.isEmpty() ? "Nothing" : title);
     }
