@@ -24,7 +24,8 @@ namespace {
 QList<QUrl> urls_of(const QString& path)
 {
     QList<QUrl> urls;
-    for (const QFileInfo& each : QDir(path).entryInfoList(QDir::Files))
+    const auto files = QDir(path).entryInfoList(QDir::Files);
+    for (const QFileInfo& each : files)
         urls.append(QUrl::fromLocalFile(each.filePath()));
     return urls.isEmpty() ? QList<QUrl>{QUrl::fromLocalFile(path)} : urls;
 }

@@ -158,7 +158,8 @@ int main()
     if (!without_file.succeeded)
         qFatal("the viewer does not run");
     bool all_kept = true;
-    for (const size& each : sizes())
+    const auto all = sizes();
+    for (const size& each : all)
         all_kept = measure(each, without_file) && all_kept;
     return all_kept ? 0 : 1;
 }

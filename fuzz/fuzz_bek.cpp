@@ -12,13 +12,16 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-const QStringList strange = {"B1   ", "B9   ", u"B\u00fc   "_s, "B1", "1", " ", ""};
+QStringList strange()
+{
+    return {"B1   ", "B9   ", u"B\u00fc   "_s, "B1", "1", " ", ""};
+}
 
 QStringList items_of(const QByteArray& bytes)
 {
     open_buffer file(bytes);
     text_lines lines(file);
-    return list_bek_names(lines) + strange;
+    return list_bek_names(lines) + strange();
 }
 
 } // namespace

@@ -12,21 +12,24 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-const QStringList strange = {"Sp_1_Auslass",
-                             "Sp__1__Auslass",
-                             "6.480_1_Auslass",
-                             "Auslass_km_Sp",
-                             "Sp_1",
-                             u"Sp_3_\u00dcberlauf"_s,
-                             "_",
-                             "",
-                             " _x_1"};
+QStringList strange()
+{
+    return {"Sp_1_Auslass",
+            "Sp__1__Auslass",
+            "6.480_1_Auslass",
+            "Auslass_km_Sp",
+            "Sp_1",
+            u"Sp_3_\u00dcberlauf"_s,
+            "_",
+            "",
+            " _x_1"};
+}
 
 QStringList items_of(const QByteArray& bytes)
 {
     open_buffer file(bytes);
     text_lines lines(file);
-    return list_dkl_names(lines) + strange;
+    return list_dkl_names(lines) + strange();
 }
 
 } // namespace

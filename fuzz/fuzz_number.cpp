@@ -40,7 +40,8 @@ void compare_line(QByteArrayView bytes, const QString& text)
 {
     QList<double> expected;
     bool ok = true;
-    for (const QString& token : text.split(u' ', Qt::SkipEmptyParts)) {
+    const auto tokens = text.split(u' ', Qt::SkipEmptyParts);
+    for (const QString& token : tokens) {
         const double value = token.toDouble(&ok);
         if (!ok)
             break;

@@ -9,8 +9,12 @@
 
 namespace {
 
-const QStringList names = {"x_B1.wel", "x_K1.wel", "x_N1.wel", "x_V1.wel",
-                           "x_T1.wel", "x_E1.wel", "x_P1.wel", "x.wel"};
+QStringList names()
+{
+    return {"x_B1.wel", "x_K1.wel", "x_N1.wel", "x_V1.wel",
+            "x_T1.wel", "x_E1.wel", "x_P1.wel", "x.wel"};
+}
+
 constexpr std::uint8_t log_is_off = 0x08;
 
 } // namespace
@@ -20,7 +24,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const fuzz_input input(data, size);
     if (has_half_a_pair(input.file))
         return is_no_use;
-    const QString& name = input.any_of(names);
+    const QString name = input.any_of(names());
     const bool is_logged = (input.choice & log_is_off) == 0;
     start_log(is_logged);
 

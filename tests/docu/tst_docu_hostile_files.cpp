@@ -45,7 +45,8 @@ void look_at_all(const docu_driver& driver)
         driver.tabs->setCurrentIndex(tab);
         QTest::qWait(20);
     }
-    for (QAction* each : driver.tools->actions())
+    const auto actions = driver.tools->actions();
+    for (QAction* each : actions)
         each->trigger();
     QTest::keyClicks(driver.field, "page");
     QTest::qWait(100);

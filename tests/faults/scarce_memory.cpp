@@ -37,6 +37,7 @@ scarce_memory::~scarce_memory()
 }
 
 // In place of the system's functions, for all libraries of the test. Theirs have these names, too.
+// NOLINTBEGIN(bugprone-reserved-identifier)
 extern "C" {
 
 void* __libc_malloc(std::size_t size);
@@ -52,5 +53,6 @@ void* realloc(void* old, std::size_t size)
     return is_refused(size) ? nullptr : __libc_realloc(old, size);
 }
 }
+// NOLINTEND(bugprone-reserved-identifier)
 
 #endif

@@ -65,7 +65,7 @@ std::function<void()>& at_line()
 class while_reading
 {
 public:
-    while_reading(int line, std::function<void()> what)
+    while_reading(int line, const std::function<void()>& what)
     {
         at_line() = [line, what, seen = 0]() mutable {
             if (++seen == line)

@@ -32,6 +32,7 @@ void check(bool succeeded)
 void make_socket(const QString& path)
 {
     const int descriptor = socket(AF_UNIX, SOCK_STREAM, 0);
+    check(descriptor >= 0);
     sockaddr_un address{AF_UNIX, {}};
     const QByteArray name = path.toUtf8();
     check(static_cast<std::size_t>(name.size()) < sizeof address.sun_path);
@@ -85,7 +86,8 @@ void add_rows(const QStringList& file_names)
 {
     QTest::addColumn<QString>("what");
     QTest::addColumn<QString>("name");
-    for (const obstacle& each : obstacles()) {
+    const auto all = obstacles();
+    for (const obstacle& each : all) {
         for (const QString& name : file_names)
             QTest::addRow("%s, %s", each.name, qPrintable(name)) << QString(each.name) << name;
     }
@@ -248,7 +250,7 @@ void tst_unreadable_files::reading_fails()
 // The same between two readings.
 void tst_unreadable_files::reading_fails_later()
 {
-    for (const QString name : {"x.bek", "x.dkl"}) {
+    for (const QString& name : {QString("x.bek"), QString("x.dkl")}) {
         window_driver driver;
         const QString path = driver.open(name, named_curves(name));
         QVERIFY(QFile::remove(path));

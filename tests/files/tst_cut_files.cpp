@@ -143,7 +143,8 @@ private slots:
 void tst_cut_files::every_length_data()
 {
     QTest::addColumn<qsizetype>("size");
-    for (const QByteArray& name : examples())
+    const auto names = examples();
+    for (const QByteArray& name : names)
         QTest::newRow(name) << qsizetype(name.endsWith("wel") ? 900 : 4096);
 }
 

@@ -107,7 +107,8 @@ void search_in_a_manual(window_driver& driver)
 {
     open_manuals(driver);
     auto* const manual = driver.window.findChild<DocuDialog*>();
-    for (auto* const field : manual->findChildren<QLineEdit*>())
+    const auto fields = manual->findChildren<QLineEdit*>();
+    for (auto* const field : fields)
         QTest::keyClicks(field, "page");
     manual->findChild<QComboBox*>()->showPopup();
 }
@@ -138,7 +139,7 @@ void pan(window_driver& driver)
 
 void open_a_menu(window_driver& driver)
 {
-    QAction* const first = driver.window.menuBar()->actions().first();
+    QAction* const first = driver.window.menuBar()->actions().constFirst();
     driver.window.menuBar()->setActiveAction(first);
     first->menu()->popup(driver.window.mapToGlobal(QPoint(5, 25)));
 }
@@ -193,7 +194,8 @@ private:
         } else if (QWidget* const dialog = QApplication::activeModalWidget()) {
             QTest::keyClick(dialog, Qt::Key_Escape);
         } else {
-            for (QWidget* const rest : QApplication::topLevelWidgets())
+            const auto all = QApplication::topLevelWidgets();
+            for (QWidget* const rest : all)
                 rest->close();
         }
     }
@@ -235,7 +237,8 @@ void tst_closing::cleanup()
 {
     QVERIFY(QDir::setCurrent(start_folder));
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    for (QWidget* const left : QApplication::topLevelWidgets())
+    const auto widgets = QApplication::topLevelWidgets();
+    for (QWidget* const left : widgets)
         QVERIFY2(!left->isVisible(), left->metaObject()->className());
 }
 
