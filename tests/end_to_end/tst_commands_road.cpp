@@ -114,6 +114,7 @@ void tst_commands_road::hidden_axis()
     // The dialog tells that the axis has been set all the same.
     program->click_in_window(plan->tool_button("2. X-Achse_unten").center());
     QVERIFY(viewer::sees_window(range_title));
+    QTest::qWait(500); // until it has the focus
     const QImage shown_again = screenshot();
     viewer::click_in_dialog(range_title, minimum_box);
     program->key("ctrl+a");
@@ -124,7 +125,7 @@ void tst_commands_road::hidden_axis()
     program->key("Escape");
     program->click_in_window(plan->tool_button("2. X-Achse_unten").center());
     QVERIFY(viewer::sees_window(range_title));
-    QCOMPARE(screenshot(), shown_again);
+    QTRY_COMPARE(screenshot(), shown_again);
     program->key("Escape");
 }
 
