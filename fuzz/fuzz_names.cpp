@@ -27,7 +27,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const fuzz_input input(data, size);
     if (has_half_a_pair(input.file))
         return is_no_use;
-    const listing& chosen = input.any_of(listings);
+    const listing chosen = input.any_of(listings);
     const bool is_logged = (input.choice & log_is_off) == 0;
     start_log(is_logged);
     open_buffer file(input.file);

@@ -18,9 +18,9 @@ struct fuzz_input
                         reinterpret_cast<const char*>(data) + std::min(size, 1 + stream_block));
     }
 
-    /// One of `values`.
+    /// One of `values`, as a copy: these may be gone at once.
     template <class list>
-    const auto& any_of(const list& values) const
+    auto any_of(const list& values) const
     {
         return values[static_cast<decltype(values.size())>(choice) % values.size()];
     }
