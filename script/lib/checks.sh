@@ -87,7 +87,11 @@ built_sources() {
 # analyse CHECKER…: runs it on all of them, a few at a time.
 analyse() { built_sources | xargs -d '\n' -n 3 -P "$(nproc)" "$@"; }
 
-check_with_clang_tidy() { analyse clang-tidy -p "$build_dir/release" --quiet; }
+# Its own progress would bury the findings.
+check_with_clang_tidy() {
+  analyse clang-tidy -p "$build_dir/release" --quiet 2>&1 |
+    { grep -vE '^[0-9]+ warnings? generated\.$|^\[[0-9/]+\] Processing file ' || true; }
+}
 
 check_with_clazy() {
   analyse clazy-standalone -p "$build_dir/release" --checks=level0,level1 --extra-arg=-Werror
