@@ -79,6 +79,7 @@ void tst_several_instances::the_picture_is_always_one_of_theirs()
         QCOMPARE(expected.count(expected.last()), 1);
     }
     std::vector<std::unique_ptr<QProcess>> running;
+    running.reserve(instances);
     for (int i = 0; i < instances; ++i)
         running.push_back(start_instance(path, i, pictures));
     int looks = 0;
