@@ -10,11 +10,18 @@
 #include <QTest>
 #include <QWheelEvent>
 
+#include <algorithm>
+
 namespace {
 
 QwtInterval range(const QwtPlot& plot, QwtAxisId axis)
 {
     return plot.axisInterval(axis);
+}
+
+QList<double> hour_marks(const QwtPlot& plot)
+{
+    return plot.axisScaleDiv(QwtAxis::XBottom).ticks(QwtScaleDiv::MajorTick);
 }
 
 bool floats(const QwtPlot& plot, QwtAxisId axis)
@@ -78,6 +85,7 @@ private slots:
     void coupling_of_the_time_axes();
     void upper_plot_is_redrawn_with_the_lower_values();
     void second_pass_of_the_same_document();
+    void each_pass_draws_both_plots_anew();
 
 private:
     void check_legends_and_scales(const plot_pair& plots);
@@ -242,6 +250,7 @@ void tst_plot_pair::coupling_of_the_time_axes()
     QCOMPARE(plots.document->last_scaled_plot, 1);
     QCOMPARE(range(*plots.upper, QwtAxis::XBottom), QwtInterval(10, 20));
     QVERIFY(!plots.upper->axisAutoScale(QwtAxis::XBottom));
+    QCOMPARE(hour_marks(*plots.upper), hour_marks(*plots.lower));
     plots.upper->setAxisScale(QwtAxis::XBottom, 30, 40);
     plots.upper->replot();
     QCOMPARE(range(*plots.lower, QwtAxis::XBottom), QwtInterval(10, 20));
@@ -266,6 +275,19 @@ void tst_plot_pair::second_pass_of_the_same_document()
     plots.lower->setAxisScale(QwtAxis::XBottom, 10, 20);
     plots.lower->replot();
     QCOMPARE(range(*plots.upper, QwtAxis::XBottom), QwtInterval(10, 20));
+}
+
+// Other values between the same highest and lowest ones, so that no axis changes.
+void tst_plot_pair::each_pass_draws_both_plots_anew()
+{
+    const drawn_gauge plots;
+    const QImage lower = plots.lower->grab().toImage();
+    const QImage upper = plots.upper->grab().toImage();
+    for (const int column : {2, 12})
+        std::ranges::reverse(plots.document->series[static_cast<std::size_t>(column)]);
+    plots.plot();
+    QVERIFY(plots.lower->grab().toImage() != lower);
+    QVERIFY(plots.upper->grab().toImage() != upper);
 }
 
 QTEST_MAIN(tst_plot_pair)

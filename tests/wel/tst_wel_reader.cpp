@@ -22,6 +22,7 @@ private slots:
     void debug_level_off();
     void second_reading_appends();
     void file_name_ends_the_path();
+    void marker_begins_a_name_without_a_folder();
     void cannot_be_opened_data();
     void cannot_be_opened();
     void element_kinds_are_distinct();
@@ -79,6 +80,18 @@ void tst_wel_reader::file_name_ends_the_path()
     QCOMPARE(plots.document->plot_mode, 6);
     plots.document->readFile(with_backslash);
     QCOMPARE(plots.document->plot_mode, 3);
+}
+
+void tst_wel_reader::marker_begins_a_name_without_a_folder()
+{
+    const QTemporaryDir folder;
+    const QString before = QDir::currentPath();
+    QVERIFY(QFile::copy(SAMPLES "two_columns_E.wel", folder.filePath("_P.wel")));
+    QVERIFY(QDir::setCurrent(folder.path()));
+    const plot_pair plots;
+    plots.document->readFile("_P.wel");
+    QVERIFY(QDir::setCurrent(before));
+    QCOMPARE(plots.document->plot_mode, 5);
 }
 
 void tst_wel_reader::cannot_be_opened_data()
