@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
-# All checks of the project, run where its dependencies are. The last line counts the tests that
-# ctest ran, and every other step that failed as one more failure.
+# All checks of the project, run where its dependencies are: checks.sh good|faulty, as the package has
+# proved before. The last line counts the tests that ctest ran, and every other step that failed as one
+# more failure.
 set -euo pipefail
 lib=$(dirname -- "$(realpath -- "$0")")
 # shellcheck source=lib/common.sh
@@ -102,6 +103,7 @@ check_scripts() {
   for script in tests/scripts/*.sh; do bash "$script" || return; done
 }
 
+[[ $1 == good ]] || fail "package: script/package --test shows it"
 logged "$build_dir/format.log" "checking the formatting" check_formatting ||
   fail "formatting: script/env clang-format -i FILE mends it"
 logged "$build_dir/scripts.log" "testing the scripts" check_scripts || fail "tests/scripts"

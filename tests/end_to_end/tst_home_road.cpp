@@ -41,7 +41,7 @@ void tst_home_road::plot_save_and_read()
     if (!home.isEmpty())
         environment.insert("HOME", home);
     program.reset(); // the windows of two are not told apart
-    program = std::make_unique<viewer>(environment);
+    program = std::make_unique<viewer>(viewer_start{.environment = environment});
     QVERIFY(program->is_shown());
     add_by_typing({"Erlenbach_K1.wel"});
     select_row(0);

@@ -15,6 +15,12 @@ using namespace std::chrono_literals;
 
 constexpr int patience = 10'000; // ms
 
+int scale()
+{
+    static const int factor = qMax(1, qEnvironmentVariableIntValue("QT_SCALE_FACTOR"));
+    return factor;
+}
+
 // Waits until the program has handled its input, and the screen stands still.
 void settle()
 {
@@ -34,6 +40,18 @@ QStringList place_words(const QPoint& point)
     return {QString::number(point.x()), QString::number(point.y())};
 }
 
+// Of what is inside the frame, on the screen.
+QRect geometry_of(const QString& window)
+{
+    const QString text = xdotool({"getwindowgeometry", "--shell", window});
+    const auto number = [&](const QString& name) {
+        const QRegularExpression line("^" + name + "=(-?\\d+)$",
+                                      QRegularExpression::MultilineOption);
+        return line.match(text).captured(1).toInt();
+    };
+    return {number("X"), number("Y"), number("WIDTH"), number("HEIGHT")};
+}
+
 QStringList visible_windows(const QString& title)
 {
     return xdotool({"search", "--onlyvisible", "--name", "^" + title + "$"})
@@ -42,13 +60,17 @@ QStringList visible_windows(const QString& title)
 
 } // namespace
 
-viewer::viewer(QProcessEnvironment environment)
+viewer::viewer(const viewer_start& start)
 {
+    if (start.folder.isEmpty())
+        temporary = std::make_unique<QTemporaryDir>();
+    folder.setPath(temporary ? temporary->path() : start.folder);
+    QProcessEnvironment environment = start.environment;
     environment.insert("QT_QPA_PLATFORM", "xcb");
     program.setProcessEnvironment(environment);
     program.setWorkingDirectory(folder.path());
     program.setStandardErrorFile(folder.filePath("log"));
-    program.start(VIEWER, QStringList());
+    program.start(start.command.first(), start.command.mid(1));
 }
 
 viewer::~viewer()
@@ -65,12 +87,12 @@ bool viewer::is_shown()
     while (!deadline.hasExpired()) {
         const auto candidates = visible_windows("plot_korimo");
         for (const QString& candidate : candidates) {
-            const QString geometry = xdotool({"getwindowgeometry", "--shell", candidate});
-            if (!geometry.contains("WIDTH=941\nHEIGHT=848"))
+            if (geometry_of(candidate).size() != QSize(941, 848) * scale())
                 continue;
             xdotool({"windowmove", "--sync", candidate, "100", "60"});
             settle();
             inside = QPoint(100, 60);
+            frame = geometry_of(candidate).topLeft() - inside;
             origin = inside + QPoint(0, central_widget_top());
             return true;
         }
@@ -84,7 +106,7 @@ int viewer::central_widget_top() const
 {
     const QImage screen = screenshot();
     int top = 0;
-    while (top < 200 && screen.pixelColor(inside + QPoint(5, top)) != QColor(0xc9c7c7))
+    while (top < 200 * scale() && screen.pixelColor(inside + QPoint(5, top)) != QColor(0xc9c7c7))
         ++top;
     return top;
 }
@@ -104,30 +126,49 @@ void viewer::close_main_window() const
     click_in_window(QPoint(931, -10)); // in its frame
 }
 
+QPoint viewer::on_screen(const QPoint& place) const
+{
+    return origin + place * scale();
+}
+
+QRect viewer::on_screen(const QRect& area) const
+{
+    return {on_screen(area.topLeft()), area.size() * scale()};
+}
+
+void viewer::click_on_screen(const QPoint& point) const
+{
+    xdotool(QStringList{"mousemove"} + place_words(point) + QStringList{"click", "1"});
+    settle();
+}
+
 void viewer::click(const QPoint& point) const
 {
-    xdotool(QStringList{"mousemove"} + place_words(on_screen(point)) + QStringList{"click", "1"});
-    settle();
+    click_on_screen(on_screen(point));
 }
 
 void viewer::click_in_window(const QPoint& point) const
 {
-    click(inside - origin + point);
+    click_on_screen(inside + point * scale());
 }
 
 void viewer::click_in_dialog(const QString& title, const QPoint& point, int times)
 {
     xdotool(QStringList{"mousemove", "--window", visible_windows(title).value(0)} +
-            place_words(point) +
+            place_words(point * scale()) +
             QStringList{"click", "--repeat", QString::number(times), "--delay", "80", "1"});
     settle();
 }
 
 int viewer::height_of(const QString& title)
 {
-    const QString text = xdotool({"getwindowgeometry", "--shell", visible_windows(title).value(0)});
-    static const QRegularExpression line("^HEIGHT=(\\d+)$", QRegularExpression::MultilineOption);
-    return line.match(text).captured(1).toInt();
+    return geometry_of(visible_windows(title).value(0)).height();
+}
+
+QImage viewer::picture_of(const QString& title) const
+{
+    settle();
+    return screenshot().copy(geometry_of(visible_windows(title).value(0)).translated(-frame));
 }
 
 void viewer::wheel(const QPoint& point, int notches, const QString& modifier) const
@@ -187,12 +228,12 @@ bool viewer::sees_no_window(const QString& title)
 
 QImage viewer::look(const QRect& area) const
 {
-    return screenshot().copy(area.translated(origin));
+    return screenshot().copy(on_screen(area));
 }
 
 int viewer::sees(const QRect& area, const QColor& colour) const
 {
-    return pixels_of(screenshot(), area.translated(origin), colour);
+    return pixels_of(screenshot(), on_screen(area), colour);
 }
 
 int viewer::exit_code()

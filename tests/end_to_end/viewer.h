@@ -1,17 +1,28 @@
 #pragma once
 
+#include <QDir>
 #include <QImage>
 #include <QProcess>
 #include <QRect>
 #include <QTemporaryDir>
 
+#include <memory>
+
+/// How a viewer is started.
+struct viewer_start
+{
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    QStringList command = {VIEWER};
+    QString folder = {}; ///< where, made for it; a temporary one if there is no name
+};
+
 /// The real program, run as a user runs it, with hands on mouse and keyboard and eyes on the
-/// screen. Places are given in pixels of the window's central widget, as the form gives them.
+/// screen. Places are given in pixels of the window's central widget, as the form gives them; on
+/// the screen they are larger by QT_SCALE_FACTOR.
 class viewer
 {
 public:
-    /// Starts the program in a folder of its own.
-    explicit viewer(QProcessEnvironment environment = QProcessEnvironment::systemEnvironment());
+    explicit viewer(const viewer_start& start = {});
     ~viewer();
 
     viewer(const viewer&) = delete;
@@ -47,20 +58,26 @@ public:
     /// How high the window with this title is, without its frame.
     static int height_of(const QString& title);
 
-    QPoint on_screen(const QPoint& place) const { return origin + place; }
+    QPoint on_screen(const QPoint& place) const;
     /// What the window shows of an area.
     QImage look(const QRect& area) const;
     int sees(const QRect& area, const QColor& colour) const;
+    /// What is inside the frame of the window with this title, and of what covers it.
+    QImage picture_of(const QString& title) const;
 
     /// The exit code, once the program has ended by itself; -1 if it does not.
     int exit_code();
 
 private:
+    void click_on_screen(const QPoint& point) const;
+    QRect on_screen(const QRect& area) const;
     int central_widget_top() const;
 
-    QTemporaryDir folder;
+    std::unique_ptr<QTemporaryDir> temporary;
+    QDir folder;
     QProcess program;
     QPoint inside; // of the window, on the screen
+    QPoint frame;  // how far xdotool is wrong about a window's place: the width of its frame
     QPoint origin; // of the central widget, on the screen
 };
 

@@ -1,0 +1,53 @@
+#include "packaging/icons/icon_file.h"
+
+#include <QBuffer>
+#include <QDataStream>
+#include <QImageWriter>
+#include <QPainter>
+#include <QSvgRenderer>
+
+namespace {
+
+constexpr int directory_size = 6;
+constexpr int entry_size = 16;
+constexpr int offset_in_entry = 12; ///< of the place where the picture begins in the file
+
+// Qt writes icon files of one picture: a directory, its entry and the picture.
+QByteArray file_of_one(const QImage& picture)
+{
+    QBuffer file;
+    QImageWriter(&file, "ico").write(picture);
+    return file.data();
+}
+
+} // namespace
+
+QImage drawn_icon(const QString& svg_file, int size)
+{
+    QSvgRenderer drawing(svg_file);
+    if (!drawing.isValid())
+        return {};
+    QImage picture(size, size, QImage::Format_ARGB32);
+    picture.fill(Qt::transparent);
+    QPainter painter(&picture);
+    drawing.render(&painter);
+    return picture;
+}
+
+QByteArray ico_of(const QList<QImage>& pictures)
+{
+    QByteArray entries;
+    QByteArray data;
+    const qsizetype data_at = directory_size + entry_size * pictures.size();
+    for (const QImage& picture : pictures) {
+        const QByteArray one = file_of_one(picture);
+        QByteArray offset;
+        QDataStream out(&offset, QIODevice::WriteOnly);
+        out.setByteOrder(QDataStream::LittleEndian);
+        out << quint32(data_at + data.size());
+        entries += one.mid(directory_size, offset_in_entry) + offset;
+        data += one.mid(directory_size + entry_size);
+    }
+    const auto count = static_cast<char>(pictures.size());
+    return QByteArray("\0\0\1\0", 4) + count + '\0' + entries + data;
+}

@@ -1,0 +1,27 @@
+# Not tried on Windows yet; packaging/README.md says what was checked and what was not.
+#
+# Everything lies in one folder: a shortcut of the installer and a click in the Explorer both start the
+# program in it, and there is the manual.
+set(KORIMO_ORIGINAL_ICON "${PROJECT_SOURCE_DIR}/resources/icons/look_and_feel/orvan.ico")
+string(REPLACE "." "," KORIMO_FILE_VERSION "${PROJECT_VERSION}")
+configure_file("${CMAKE_CURRENT_LIST_DIR}/plot_korimo.rc.in" plot_korimo.rc @ONLY)
+target_sources(plot_korimo PRIVATE "${CMAKE_CURRENT_BINARY_DIR}/plot_korimo.rc")
+
+install(TARGETS plot_korimo RUNTIME DESTINATION .)
+install(FILES "${MANUAL_PDF}" DESTINATION .)
+install(FILES ${EXAMPLE_FILES} DESTINATION examples)
+
+get_target_property(qwt_library Qwt::Qwt IMPORTED_LOCATION)
+get_filename_component(qwt_folder "${qwt_library}" DIRECTORY)
+find_file(QWT_DLL NAMES qwt-qt6.dll qwt.dll HINTS "${qwt_folder}" "${qwt_folder}/../bin" REQUIRED)
+install(FILES "${QWT_DLL}" DESTINATION .)
+
+set(QT_DEPLOY_BIN_DIR .)
+qt_generate_deploy_app_script(TARGET plot_korimo OUTPUT_SCRIPT deploy_script)
+install(SCRIPT "${deploy_script}")
+
+set(CPACK_GENERATOR ZIP NSIS)
+set(CPACK_PACKAGE_INSTALL_DIRECTORY plot_korimo)
+set(CPACK_NSIS_DISPLAY_NAME plot_korimo)
+set(CPACK_NSIS_MUI_ICON "${KORIMO_ORIGINAL_ICON}")
+set(CPACK_NSIS_EXECUTABLES_DIRECTORY .)
