@@ -57,20 +57,14 @@ void korimo_plot::readFile(QString filepath)
     QFile file(filepath);
     if (!open_or_report(file))
         return;
+    const file_kind kind = file_kind_of(filepath);
     read_or_report(file, [&](text_lines& lines) {
-        switch (file_kind_of(filepath)) {
-        case file_kind::wel:
+        if (kind == file_kind::wel)
             read_wel(lines, file_name_of(filepath), {plot_mode, wel_title, series});
-            break;
-        case file_kind::bek:
+        else if (kind == file_kind::bek)
             kennlinien_list = list_bek_names(lines);
-            break;
-        case file_kind::dkl:
+        else if (kind == file_kind::dkl)
             kennlinien_list = list_dkl_names(lines);
-            break;
-        case file_kind::none:
-            break;
-        }
     });
 }
 

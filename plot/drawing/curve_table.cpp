@@ -59,11 +59,6 @@ constexpr plot_mode_rule rules[] = {
 
 } // namespace
 
-std::span<const plot_mode_rule> plot_mode_rules()
-{
-    return rules;
-}
-
 const plot_mode_rule* plot_mode_rule_of(int plot_mode)
 {
     const auto* const found = std::ranges::find(rules, plot_mode, &plot_mode_rule::plot_mode);

@@ -5,8 +5,6 @@
 #include <Qt>
 #include <QtTypes>
 
-#include <span>
-
 enum class plot_place
 {
     lower,
@@ -42,9 +40,6 @@ struct plot_mode_rule
     axis_titles upper;
     bool lists_names = true; ///< whether the curves' titles become names that can be changed
 };
-
-/// All plot modes that draw something.
-std::span<const plot_mode_rule> plot_mode_rules();
 
 /// The rule of a mode; null where the mode draws nothing.
 const plot_mode_rule* plot_mode_rule_of(int plot_mode);

@@ -257,6 +257,8 @@ void tst_number::value_of_text_data()
     row("", 0.0);
     row("   ", 0.0);
     row("1 2", 0.0);
+    row("!1", 0.0);
+    row("1!", 0.0);
     row("Zeit", 0.0);
     row("1,5", 0.0);
     row(" +1e400", infinity);
