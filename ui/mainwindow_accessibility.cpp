@@ -8,7 +8,7 @@
 // cannot name stands between the commands for names and the file list.
 void MainWindow::complete_tab_order()
 {
-    QWidget* last = ui->pushButton_2;
+    QWidget* last = ui->pushButton_f_end;
     const auto append = [&last](QWidget* next) {
         setTabOrder(last, next);
         last = next;

@@ -9,10 +9,12 @@ namespace {
 
 constexpr int seconds = 1000;
 
-// The server chooses a free display number and writes it to its standard output.
+// The server chooses a free display number and writes it to its standard output. It must not start
+// anew when its last client leaves, as the first one may: it would refuse the next one meanwhile.
 QByteArray start_server(QProcess& server)
 {
-    server.start("Xvfb", {"-displayfd", "1", "-screen", "0", "1280x1024x24", "-nolisten", "tcp"});
+    server.start("Xvfb", {"-displayfd", "1", "-screen", "0", "1280x1024x24", "-nolisten", "tcp",
+                          "-noreset"});
     QByteArray number;
     while (!number.endsWith('\n') && server.waitForReadyRead(20 * seconds))
         number += server.readAllStandardOutput();
