@@ -38,6 +38,7 @@ DocuDialog::DocuDialog(QWidget* parent)
     createWidgets();
     createToolBar();
     createConnections();
+    makeAccessible();
     setAttribute(Qt::WA_DeleteOnClose);
     const QRect screen = QGuiApplication::primaryScreen()->geometry();
     resize(static_cast<int>(screen.width() * 0.7), static_cast<int>(screen.height() * 0.9));

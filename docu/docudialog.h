@@ -21,7 +21,8 @@ class ZoomSelector;
 /// a search has found. The dialog deletes itself when it is closed.
 ///
 /// Its code is split: docudialog.cpp holds what it does, docudialog_widgets.cpp,
-/// docudialog_toolbar.cpp and docudialog_connections.cpp build it in this order.
+/// docudialog_toolbar.cpp, docudialog_connections.cpp and docudialog_accessibility.cpp build it in
+/// this order.
 class DocuDialog : public QDialog
 {
     Q_OBJECT
@@ -53,6 +54,7 @@ private:
     void createWidgets();
     void createToolBar();
     void createConnections();
+    void makeAccessible();
 
     QWidget* tabPage(QWidget* content);
     QAction* addStyleAction(int standardIcon, const QString& toolTip, void (DocuDialog::*slot)());

@@ -43,6 +43,8 @@ MainWindow::MainWindow(QWidget* parent)
     connect_commands();
     ui->listWidget_2->setSelectionMode(QAbstractItemView::SingleSelection);
     ui->listWidget->setSelectionMode(QAbstractItemView::SingleSelection);
+    complete_tab_order();
+    name_canvases();
 }
 
 MainWindow::~MainWindow()

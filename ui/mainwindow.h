@@ -76,6 +76,8 @@ public slots:
 private:
     void set_up_plots();
     void connect_commands();
+    void complete_tab_order();
+    void name_canvases();
 
     void add_files(const QStringList& paths);
 

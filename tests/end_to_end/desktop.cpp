@@ -1,22 +1,43 @@
 #include "tests/end_to_end/desktop.h"
 
+#include <QDeadlineTimer>
 #include <QGuiApplication>
 #include <QPixmap>
 #include <QScreen>
-#include <QStandardPaths>
+#include <QThread>
+
+#include <chrono>
 
 namespace {
 
+using namespace std::chrono_literals;
+
 constexpr int seconds = 1000;
 
-// The server chooses a free display number and writes it to its standard output.
+// The server chooses a free display number and writes it to its standard output. It must not start
+// anew when its last client leaves, as the first one may: it would refuse the next one meanwhile.
 QByteArray start_server(QProcess& server)
 {
-    server.start("Xvfb", {"-displayfd", "1", "-screen", "0", "1280x1024x24", "-nolisten", "tcp"});
+    server.start("Xvfb", {"-displayfd", "1", "-screen", "0", "1280x1024x24", "-nolisten", "tcp",
+                          "-noreset"});
     QByteArray number;
     while (!number.endsWith('\n') && server.waitForReadyRead(20 * seconds))
         number += server.readAllStandardOutput();
     return number.trimmed();
+}
+
+// The window of a program that comes up before the manager answers requests may never be shown. The
+// manager has more than one desktop at first.
+bool manager_answers()
+{
+    const QDeadlineTimer deadline(20s);
+    do {
+        xdotool({"set_num_desktops", "1"});
+        if (xdotool({"get_num_desktops"}) == "1")
+            return true;
+        QThread::msleep(20);
+    } while (!deadline.hasExpired());
+    return false;
 }
 
 } // namespace
@@ -28,7 +49,7 @@ desktop::desktop()
         return;
     qputenv("DISPLAY", ":" + number);
     manager.start("openbox", QStringList());
-    ready = manager.waitForStarted(20 * seconds);
+    ready = manager_answers();
 }
 
 desktop::~desktop()
