@@ -16,10 +16,11 @@ constexpr int seconds = 1000;
 
 // The server chooses a free display number and writes it to its standard output. It must not start
 // anew when its last client leaves, as the first one may: it would refuse the next one meanwhile.
-QByteArray start_server(QProcess& server)
+QByteArray start_server(QProcess& server, const QSize& size)
 {
-    server.start("Xvfb", {"-displayfd", "1", "-screen", "0", "1280x1024x24", "-nolisten", "tcp",
-                          "-noreset"});
+    const QString screen = QStringLiteral("%1x%2x24").arg(size.width()).arg(size.height());
+    server.start("Xvfb",
+                 {"-displayfd", "1", "-screen", "0", screen, "-nolisten", "tcp", "-noreset"});
     QByteArray number;
     while (!number.endsWith('\n') && server.waitForReadyRead(20 * seconds))
         number += server.readAllStandardOutput();
@@ -42,9 +43,9 @@ bool manager_answers()
 
 } // namespace
 
-desktop::desktop()
+desktop::desktop(const QSize& size)
 {
-    const QByteArray number = start_server(server);
+    const QByteArray number = start_server(server, size);
     if (number.isEmpty())
         return;
     qputenv("DISPLAY", ":" + number);

@@ -9,7 +9,7 @@
 class desktop
 {
 public:
-    desktop();
+    explicit desktop(const QSize& size = {1280, 1024});
     ~desktop();
 
     desktop(const desktop&) = delete;

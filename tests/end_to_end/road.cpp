@@ -13,7 +13,10 @@ bool screenshots_are_wanted()
 
 } // namespace
 
-road::road() = default;
+road::road(const QSize& screen_size)
+    : screen(screen_size)
+{
+}
 
 road::~road() = default;
 

@@ -24,7 +24,7 @@ class road : public QObject
     Q_OBJECT
 
 public:
-    road();
+    explicit road(const QSize& screen_size = {1280, 1024});
     ~road() override;
 
 protected slots:

@@ -53,7 +53,7 @@ void tst_screen_reader_road::initTestCase()
 
 void tst_screen_reader_road::init()
 {
-    program = std::make_unique<viewer>(for_screen_readers());
+    program = std::make_unique<viewer>(viewer_start{.environment = for_screen_readers()});
     QVERIFY(program->is_shown());
     QTRY_COMPARE(focus(), "Plot");
 }
