@@ -2,8 +2,8 @@
 
 READING = (
     "tst_text_lines tst_file_kind tst_number tst_wel_reader tst_bek_reader tst_dkl_reader "
-    "tst_name_listing tst_line_text tst_line_blocks tst_row_log tst_single_pass "
-    "tst_random_files"
+    "tst_name_listing tst_line_text tst_line_blocks tst_row_log tst_single_pass tst_read_errors "
+    "tst_unreadable_files tst_out_of_memory tst_random_files"
 )
 DRAWING = (
     "tst_curves tst_plot_pair tst_axis_scales tst_store tst_lifetimes tst_plot_commands "
@@ -13,11 +13,12 @@ DIALOGS = "tst_axis_dialog tst_rename_dialog tst_axis_commands tst_rename_comman
 WINDOW = (
     "tst_layout tst_file_list tst_plot_commands tst_fixed_ranges tst_characteristic_curves "
     "tst_name_navigation tst_axis_commands tst_rename_command tst_information tst_saved_image "
-    "tst_manual_command tst_startup tst_random_walk"
+    "tst_manual_command tst_startup tst_odd_names tst_picture_faults tst_closing "
+    "tst_several_instances tst_tab_order tst_keys tst_random_walk"
 )
 DOCU = (
     "tst_docu_layout tst_docu_navigation tst_docu_search tst_zoom_selector tst_docu_bad_files "
-    "tst_manual_command tst_manual_module"
+    "tst_docu_keys tst_docu_hostile_files tst_manual_command tst_manual_module"
 )
 
 # The first row whose pattern stands in the path holds; the second column comes before the third.
@@ -43,7 +44,7 @@ TABLE = [
     ("plot/drawing/pixel_map", "tst_sampled_line tst_long_curve", DRAWING),
     ("plot/drawing/owned_item", "tst_lifetimes", DRAWING),
     ("plot/drawing/", "tst_other_curves tst_long_curve", DRAWING),
-    ("plot/korimo_plot_reading", "tst_store tst_wel_reader", READING),
+    ("plot/korimo_plot_reading", "tst_store tst_wel_reader tst_out_of_memory", READING),
     ("plot/korimo_plot_axes", "tst_axis_scales", DRAWING),
     ("plot/korimo_plot_finish", "tst_plot_pair", DRAWING),
     ("plot/", "tst_curves", DRAWING + " " + READING),
