@@ -1,6 +1,6 @@
 #include "ui/axis_dialog.h"
 
-#include "ui_axis_dialog.h"
+#include "ui/ui_axis_dialog.h"
 
 #include <QDebug>
 

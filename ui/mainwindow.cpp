@@ -4,7 +4,7 @@
 #include "ui/application_icon.h"
 #include "ui/axis_dialog.h"
 #include "ui/rename_dialog.h"
-#include "ui_mainwindow.h"
+#include "ui/ui_mainwindow.h"
 
 #include <qwt_scale_draw.h>
 

@@ -1,6 +1,6 @@
 #include "ui/mainwindow.h"
 
-#include "ui_mainwindow.h"
+#include "ui/ui_mainwindow.h"
 
 #include <QToolButton>
 

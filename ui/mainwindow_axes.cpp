@@ -2,7 +2,7 @@
 
 #include "plot/korimo_plot.h"
 #include "ui/axis_dialog.h"
-#include "ui_mainwindow.h"
+#include "ui/ui_mainwindow.h"
 
 #include <QDebug>
 

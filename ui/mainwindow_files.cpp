@@ -2,7 +2,7 @@
 
 #include "plot/reading/file_kind.h"
 #include "ui/choose_files.h"
-#include "ui_mainwindow.h"
+#include "ui/ui_mainwindow.h"
 
 #include <QDragEnterEvent>
 #include <QDropEvent>

@@ -2,7 +2,7 @@
 
 #include "ui/application_icon.h"
 #include "ui/image_file_name.h"
-#include "ui_mainwindow.h"
+#include "ui/ui_mainwindow.h"
 
 #include <QFile>
 #include <QFileInfo>

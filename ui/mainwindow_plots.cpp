@@ -2,7 +2,7 @@
 
 #include "plot/korimo_plot.h"
 #include "plot/reading/file_kind.h"
-#include "ui_mainwindow.h"
+#include "ui/ui_mainwindow.h"
 
 #include <utility>
 

@@ -2,7 +2,7 @@
 
 #include "plot/korimo_plot.h"
 #include "ui/rename_dialog.h"
-#include "ui_mainwindow.h"
+#include "ui/ui_mainwindow.h"
 
 void MainWindow::on_actionZeitreihe_change_names_triggered()
 {

@@ -1,6 +1,6 @@
 #include "ui/rename_dialog.h"
 
-#include "ui_rename_dialog.h"
+#include "ui/ui_rename_dialog.h"
 
 rename_dialog::rename_dialog(QWidget* parent)
     : QDialog(parent)
