@@ -2,6 +2,7 @@
 
 #include "plot/drawing/long_curve.h"
 #include "plot/drawing/owned_item.h"
+#include "plot/shown_text.h"
 
 #include <qwt_plot_curve.h>
 #include <qwt_plot_grid.h>
@@ -57,7 +58,7 @@ void korimo_plot::set_curve_names(QStringList names)
         const auto curve = static_cast<std::size_t>(i);
         if (names[i].isEmpty() || !curves[curve])
             continue;
-        curves[curve]->setTitle(names[i]);
+        curves[curve]->setTitle(shown_text(names[i]));
         curve_title[curve] = names[i];
         if (i < curve_names.size())
             curve_names[i] = names[i];

@@ -1,9 +1,9 @@
 #include "plot/korimo_plot.h"
 
 #include "plot/drawing/curve_table.h"
+#include "plot/shown_text.h"
 
 #include <qwt_plot_curve.h>
-#include <qwt_text.h>
 
 namespace {
 
@@ -82,5 +82,5 @@ void korimo_plot::set_title(const curve_rule& rule, bool listed)
     const QString title = rule.title ? QString::fromUtf16(rule.title) : wel_title;
     if (listed)
         curve_title[static_cast<std::size_t>(rule.curve)] = title;
-    curve_of(rule)->setTitle(title);
+    curve_of(rule)->setTitle(shown_text(title));
 }

@@ -76,6 +76,7 @@ void MainWindow::on_action_speicher_triggered()
         save(picture, file);
     QMessageBox box;
     box.setWindowIcon(application_icon());
+    box.setTextFormat(Qt::PlainText); // names may look like mark-up
     box.setText(QStringLiteral("File saved to ") + file);
     box.exec();
 }

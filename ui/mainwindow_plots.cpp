@@ -2,6 +2,7 @@
 
 #include "plot/korimo_plot.h"
 #include "plot/reading/file_kind.h"
+#include "plot/shown_text.h"
 #include "ui/ui_mainwindow.h"
 
 #include <utility>
@@ -81,7 +82,7 @@ void MainWindow::clear_plots(QString trigger)
 void MainWindow::plot_hydrographs()
 {
     document->plot_the_curves(ui->qwtPlot, ui->qwtPlot_2);
-    ui->qwtPlot->setTitle(document->get_wel_title());
+    ui->qwtPlot->setTitle(shown_text(document->get_wel_title(), ui->qwtPlot->title()));
 }
 
 void MainWindow::list_names(const QString& path)

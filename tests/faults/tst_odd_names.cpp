@@ -4,11 +4,14 @@
 #include "tests/support/write_file.h"
 
 #include <qwt_plot.h>
+#include <qwt_plot_curve.h>
+#include <qwt_text.h>
 
 #include <QAction>
 #include <QDir>
 #include <QDragEnterEvent>
 #include <QDropEvent>
+#include <QFont>
 #include <QImage>
 #include <QListWidget>
 #include <QMimeData>
@@ -33,12 +36,23 @@ void drop(MainWindow& window, const QUrl& url)
     QCoreApplication::sendEvent(&window, &event);
 }
 
-// The text of the box that saving shows, if it is the only one.
+// The text of the box that saving shows, if it is the only one and takes nothing for mark-up.
 QString save(const window_driver& driver)
 {
     const modal_boxes boxes;
     driver.window.findChild<QAction*>("action_speicher")->trigger();
-    return boxes.shown().size() == 1 ? boxes.shown()[0].text : QString();
+    const bool is_plain =
+        boxes.shown().size() == 1 && boxes.shown()[0].text_format == Qt::PlainText;
+    return is_plain ? boxes.shown()[0].text : QString();
+}
+
+// Whether a text is drawn in one line, as it is where "<br>" is no mark-up.
+bool is_one_line(QwtText text)
+{
+    const QFont font;
+    text.setFont(font);
+    text.setRenderFlags(Qt::AlignCenter);
+    return text.textSize().height() == QwtText("x", QwtText::PlainText).textSize(font).height();
 }
 
 // Writes a file whose name is bytes that are no UTF-8, which no text of Qt can stand for.
@@ -64,6 +78,8 @@ private slots:
     void no_room_for_the_ending_of_the_picture();
     void bytes_that_are_no_text();
     void curve_named_like_its_file();
+    void titles_that_look_like_mark_up();
+    void title_without_end();
     void odd_names_of_curves_data();
     void odd_names_of_curves();
 };
@@ -156,6 +172,34 @@ void tst_odd_names::curve_named_like_its_file()
     QFile file(path);
     QVERIFY(file.open(QIODevice::ReadOnly));
     QCOMPARE(file.readAll(), text);
+}
+
+// A picture that mark-up names would be read, be it from a device that never ends.
+void tst_odd_names::titles_that_look_like_mark_up()
+{
+    window_driver driver;
+    driver.open("x_K.wel", "Ganglinien<br><br>Q\n0 1 2 3\n72 1 2 3\n");
+    QCOMPARE(driver.lower->title().text(), "Ganglinien<br><br>Q");
+    QCOMPARE(driver.lower->title().renderFlags(), Qt::AlignCenter | Qt::TextWordWrap);
+    QVERIFY(is_one_line(driver.lower->title()));
+    driver.window.shown_document()->set_curve_names({"a<br><br>b"});
+    QCOMPARE(curves_of(driver.lower)[0]->title().text(), "a<br><br>b");
+    QVERIFY(is_one_line(curves_of(driver.lower)[0]->title()));
+    driver.open("x.dkl", " 1 a<br><br>b km 1.5\n Wo Qd\n 1\n 101.5 1\n");
+    driver.pick(0);
+    driver.press(driver.plot_name);
+    QCOMPARE(curves_of(driver.lower)[0]->title().text(), "1.5_1_a<br><br>b");
+    QVERIFY(is_one_line(curves_of(driver.lower)[0]->title()));
+}
+
+// To lay out all of it would take minutes, each time it is drawn.
+void tst_odd_names::title_without_end()
+{
+    window_driver driver;
+    const QByteArray title = "Ganglinien" + QByteArray(20'000'000, ' ') + "Q";
+    driver.open("x_K.wel", title + "\n0 1 2 3\n72 1 2 3\n");
+    QCOMPARE(driver.window.shown_document()->wel_title, title);
+    QCOMPARE(driver.lower->title().text(), title.first(10'000));
 }
 
 void tst_odd_names::odd_names_of_curves_data()

@@ -45,6 +45,7 @@ void modal_boxes::answer()
     seen.own_window_icon = box->testAttribute(Qt::WA_SetWindowIcon);
     seen.has_parent = box->parentWidget() != nullptr;
     seen.informative_text = box->informativeText();
+    seen.text_format = box->textFormat();
     seen.object = box;
     boxes.append(seen);
     QTest::keyClick(box, Qt::Key_Return);

@@ -17,6 +17,7 @@ struct shown_box
     bool own_window_icon = false; ///< not only the application's
     bool has_parent = false;
     QString informative_text;
+    Qt::TextFormat text_format = Qt::AutoText;
     const void* object = nullptr; ///< to tell boxes apart
 };
 

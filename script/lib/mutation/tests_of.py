@@ -47,6 +47,7 @@ TABLE = [
     ("plot/korimo_plot_reading", "tst_store tst_wel_reader tst_out_of_memory", READING),
     ("plot/korimo_plot_axes", "tst_axis_scales", DRAWING),
     ("plot/korimo_plot_finish", "tst_plot_pair", DRAWING),
+    ("plot/shown_text", "tst_odd_names", DRAWING),
     ("plot/", "tst_curves", DRAWING + " " + READING),
     ("ui/axis_dialog", "tst_axis_dialog", DIALOGS),
     ("ui/rename_dialog", "tst_rename_dialog", DIALOGS),

@@ -1,0 +1,8 @@
+#pragma once
+
+#include <qwt_text.h>
+
+/// A text of a file, or of the user, as plots show it: letter by letter, in the way of `look`. By
+/// itself Qwt takes some texts for mark-up, and reads the files that they name as pictures, be it a
+/// device without an end. Of a text that no plot has room for, only the start is shown.
+QwtText shown_text(const QString& text, QwtText look = QwtText());
