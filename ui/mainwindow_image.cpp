@@ -44,12 +44,22 @@ bool may_be_written(const QString& file)
     return !place.exists() || (place.isFile() && QFile(file).open(QIODevice::ReadWrite));
 }
 
-// At once and whole, so that no other viewer that saves or shows the same picture meets half of it.
-// Where that is impossible (a very long name, a closed folder), as it comes.
-void save(const QPixmap& picture, const QString& file)
+// Writes at once and whole, so that no other viewer that saves or shows the same picture meets half
+// of it, and answers whether that could be tried. On a full disk the earlier picture stays.
+bool save_at_once(const QPixmap& picture, const QString& file)
 {
     QSaveFile whole(file);
-    if (!whole.open(QIODevice::WriteOnly) || !picture.save(&whole, "PNG") || !whole.commit())
+    if (!whole.open(QIODevice::WriteOnly))
+        return false;
+    return !picture.save(&whole, "PNG") || whole.commit() ||
+           whole.error() != QFileDevice::RenameError;
+}
+
+// Where that is impossible (a very long name, a closed folder, a file that cannot be replaced), as
+// it comes.
+void save(const QPixmap& picture, const QString& file)
+{
+    if (!save_at_once(picture, file))
         picture.save(file, "PNG");
 }
 

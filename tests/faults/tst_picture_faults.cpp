@@ -52,6 +52,7 @@ private slots:
     void full_device();
     void no_more_room_data();
     void no_more_room();
+    void earlier_picture_stays_on_a_full_disk();
     void forbidden_folder();
     void forbidden_picture();
     void folder_that_is_gone();
@@ -87,6 +88,23 @@ void tst_picture_faults::no_more_room()
     }
     std::signal(SIGXFSZ, before);
     QVERIFY(QFileInfo(window.picture).size() <= bytes);
+    QVERIFY(window.saves_again());
+}
+
+void tst_picture_faults::earlier_picture_stays_on_a_full_disk()
+{
+    const drawn_window window;
+    write_file(window.picture, "an earlier picture");
+    const auto before = std::signal(SIGXFSZ, SIG_IGN);
+    {
+        const lower_limit full(RLIMIT_FSIZE, 1000);
+        QVERIFY(window.save());
+    }
+    std::signal(SIGXFSZ, before);
+    QFile picture(window.picture);
+    QVERIFY(picture.open(QIODevice::ReadOnly));
+    QCOMPARE(picture.readAll(), "an earlier picture");
+    QCOMPARE(QDir(window.driver.folder.path()).entryList(QDir::Files | QDir::Hidden).size(), 2);
     QVERIFY(window.saves_again());
 }
 
