@@ -1,5 +1,6 @@
 #include "plot/reading/dkl_reader.h"
 
+#include "plot/reading/debug_log.h"
 #include "plot/reading/dkl_lines.h"
 #include "plot/reading/line_text.h"
 #include "plot/reading/number.h"
@@ -55,6 +56,7 @@ void append_point(QByteArrayView line, series_store& series)
     const double discharge = value_of(second);
     const bool has_zero = level == 0.0 || discharge == 0.0;
     if (has_zero && !second.contains("E+00")) {
+        ask_for_room_to_quote(line);
         qWarning() << "dkl data line could not be converted: " << decoded(line);
         return;
     }

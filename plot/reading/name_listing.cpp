@@ -59,10 +59,12 @@ QStringList list_dkl_names(text_lines& lines)
             continue;
         const QString line = decoded(bytes);
         const QStringList words = header_words(line);
-        if (words.size() >= 4)
+        if (words.size() >= 4) {
             names.append(words[3] + u'_' + words[0] + u'_' + words[1]);
-        else if (debug_log_is_on())
+        } else if (debug_log_is_on()) {
+            ask_for_room_to_quote(bytes);
             qDebug() << "dkl header line with too few words: " << line;
+        }
     }
     return names;
 }

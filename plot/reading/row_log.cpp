@@ -51,8 +51,12 @@ void log_row(QByteArrayView line, bool ok)
 {
     if (!debug_log_is_on())
         return;
-    if (is_quoted_unchanged(line))
-        qDebug().noquote() << QLatin1StringView(usual_text(line, ok));
-    else
+    if (is_quoted_unchanged(line)) {
+        const QByteArray text = usual_text(line, ok);
+        ask_for_room_to_log(text.size());
+        qDebug().noquote() << QLatin1StringView(text);
+    } else {
+        ask_for_room_to_quote(line);
         qDebug() << tokens_of(decoded(line)) << ok;
+    }
 }

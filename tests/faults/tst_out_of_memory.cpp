@@ -15,19 +15,18 @@
 
 namespace {
 
-constexpr qsizetype room = scarce_memory::largest;
-
 bool has_no_values(const korimo_plot& document)
 {
     return std::ranges::all_of(document.series, &QList<double>::isEmpty);
 }
 
-// Text that is written behind what the file starts with: `piece` until it is as long as the room,
-// or somewhat longer than that.
+using namespace Qt::StringLiterals;
+
+// Text that is written behind what the file starts with: `piece` until it is so long.
 struct rest_of_file
 {
     const char* piece;
-    qsizetype factor;
+    qsizetype megabytes;
 };
 
 void append(const QString& path, const rest_of_file& rest)
@@ -36,13 +35,46 @@ void append(const QString& path, const rest_of_file& rest)
     QFile file(path);
     if (!file.open(QIODevice::Append))
         qFatal("cannot write a temporary file");
-    for (qsizetype size = 0; size < rest.factor * room / 2; size += block.size())
+    for (qsizetype i = 0; i < rest.megabytes; ++i)
         file.write(block);
 }
 
-constexpr rest_of_file rows{"1\n", 1};
-constexpr rest_of_file one_token{"11", 4};
-constexpr rest_of_file one_row{"1 ", 4};
+constexpr rest_of_file rows{"1\n", 8};
+constexpr rest_of_file one_token{"11", 32};
+constexpr rest_of_file one_row{"1 ", 32};
+
+// There is room for the line, but not for all that the log makes of it.
+constexpr rest_of_file words{"a ", 3};
+constexpr rest_of_file quotes{"\"\"", 3};
+
+// Does with each line what the usual handler does, but for the writing.
+class usual_log
+{
+public:
+    usual_log()
+        : previous(qInstallMessageHandler(write))
+    {
+        QLoggingCategory::defaultCategory()->setEnabled(QtDebugMsg, true);
+    }
+
+    ~usual_log()
+    {
+        QLoggingCategory::defaultCategory()->setEnabled(QtDebugMsg, false);
+        qInstallMessageHandler(previous);
+    }
+
+    usual_log(const usual_log&) = delete;
+    usual_log& operator=(const usual_log&) = delete;
+
+private:
+    static void write(QtMsgType type, const QMessageLogContext& context, const QString& text)
+    {
+        const QByteArray line = qFormatLogMessage(type, context, text).toLocal8Bit();
+        Q_UNUSED(line);
+    }
+
+    QtMessageHandler previous;
+};
 
 } // namespace
 
@@ -55,8 +87,11 @@ private slots:
     void initTestCase();
     void opened_data();
     void opened();
+    void logged_data();
+    void logged();
     void drawn_data();
     void drawn();
+    void warned_of();
     void line_without_end_data();
     void line_without_end();
 };
@@ -106,6 +141,39 @@ void tst_out_of_memory::opened()
     QCOMPARE(driver.window.shown_document()->series[12], (QList<double>{2, 5}));
 }
 
+void tst_out_of_memory::logged_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QByteArray>("start");
+    QTest::addColumn<rest_of_file>("rest");
+    QTest::newRow("words") << "x_P.wel" << "1 2 3\n"_ba << words;
+    QTest::newRow("quotes") << "x_P.wel" << "1 2 3\n"_ba << quotes;
+    QTest::newRow("header") << "x.dkl" << throttle_curves() + "km " << quotes;
+}
+
+void tst_out_of_memory::logged()
+{
+    QFETCH(QString, name);
+    QFETCH(QByteArray, start);
+    QFETCH(rest_of_file, rest);
+    window_driver driver;
+    append(driver.add(name, start), rest);
+    driver.select(0);
+    const modal_boxes boxes;
+    {
+        const usual_log log;
+        const scarce_memory scarce;
+        driver.press(driver.button);
+    }
+    QCOMPARE(boxes.shown().size(), name.endsWith("wel") ? 2 : 1);
+    QCOMPARE(boxes.shown()[0].text, "Could not open or read file");
+    QVERIFY(has_no_values(*driver.window.shown_document()));
+    QCOMPARE(driver.names->count(), 0);
+    driver.press(driver.button); // "Clear"
+    driver.press(driver.button);
+    QCOMPARE(boxes.shown().size(), name.endsWith("wel") ? 2 : 1);
+}
+
 void tst_out_of_memory::drawn_data()
 {
     QTest::addColumn<QString>("name");
@@ -133,6 +201,24 @@ void tst_out_of_memory::drawn()
     write_file(path, named_curves(name));
     driver.press(driver.plot_name);
     QCOMPARE(drawn_number(driver), 3);
+}
+
+// In place of its point the curve has a line that the log is told of.
+void tst_out_of_memory::warned_of()
+{
+    window_driver driver;
+    const QString path = driver.open("x.dkl", " 1 Auslass1 km 1.5\n 1\n");
+    append(path, quotes);
+    driver.pick(0);
+    const modal_boxes boxes;
+    {
+        const usual_log log;
+        const scarce_memory scarce;
+        driver.press(driver.plot_name);
+    }
+    QCOMPARE(boxes.shown().size(), 1);
+    QCOMPARE(boxes.shown()[0].text, "Could not open or read file");
+    QVERIFY(has_no_values(*driver.window.shown_document()));
 }
 
 void tst_out_of_memory::line_without_end_data()

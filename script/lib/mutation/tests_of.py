@@ -33,6 +33,7 @@ TABLE = [
     ("plot/reading/tokens", "tst_line_text tst_number", READING),
     ("plot/reading/row_log", "tst_row_log", READING),
     ("plot/reading/line_text", "tst_line_text tst_bek_reader tst_name_listing", READING),
+    ("plot/reading/debug_log", "tst_row_log tst_out_of_memory", READING),
     ("plot/reading/file_kind", "tst_file_kind", READING),
     ("plot/reading/result_file", "tst_store tst_wel_reader", READING),
     ("plot/reading/", "tst_wel_reader", READING),
