@@ -3,6 +3,7 @@
 #include "plot/korimo_plot.h"
 #include "ui/application_icon.h"
 #include "ui/axis_dialog.h"
+#include "ui/name_delegate.h"
 #include "ui/rename_dialog.h"
 #include "ui/ui_mainwindow.h"
 
@@ -42,6 +43,7 @@ MainWindow::MainWindow(QWidget* parent)
     ui->pushButton_3->setText(QStringLiteral("Remove File"));
     connect_commands();
     ui->listWidget_2->setSelectionMode(QAbstractItemView::SingleSelection);
+    ui->listWidget_2->setItemDelegate(new name_delegate(ui->listWidget_2));
     ui->listWidget->setSelectionMode(QAbstractItemView::SingleSelection);
     complete_tab_order();
     name_canvases();

@@ -80,6 +80,7 @@ private slots:
     void curve_named_like_its_file();
     void titles_that_look_like_mark_up();
     void title_without_end();
+    void name_without_end();
     void odd_names_of_curves_data();
     void odd_names_of_curves();
 };
@@ -183,13 +184,13 @@ void tst_odd_names::titles_that_look_like_mark_up()
     QCOMPARE(driver.lower->title().renderFlags(), Qt::AlignCenter | Qt::TextWordWrap);
     QVERIFY(is_one_line(driver.lower->title()));
     driver.window.shown_document()->set_curve_names({"a<br><br>b"});
-    QCOMPARE(curves_of(driver.lower)[0]->title().text(), "a<br><br>b");
-    QVERIFY(is_one_line(curves_of(driver.lower)[0]->title()));
+    QCOMPARE(curves_of(driver.lower).at(0)->title().text(), "a<br><br>b");
+    QVERIFY(is_one_line(curves_of(driver.lower).at(0)->title()));
     driver.open("x.dkl", " 1 a<br><br>b km 1.5\n Wo Qd\n 1\n 101.5 1\n");
     driver.pick(0);
     driver.press(driver.plot_name);
-    QCOMPARE(curves_of(driver.lower)[0]->title().text(), "1.5_1_a<br><br>b");
-    QVERIFY(is_one_line(curves_of(driver.lower)[0]->title()));
+    QCOMPARE(curves_of(driver.lower).at(0)->title().text(), "1.5_1_a<br><br>b");
+    QVERIFY(is_one_line(curves_of(driver.lower).at(0)->title()));
 }
 
 // To lay out all of it would take minutes, each time it is drawn.
@@ -200,6 +201,21 @@ void tst_odd_names::title_without_end()
     driver.open("x_K.wel", title + "\n0 1 2 3\n72 1 2 3\n");
     QCOMPARE(driver.window.shown_document()->wel_title, title);
     QCOMPARE(driver.lower->title().text(), title.first(10'000));
+}
+
+void tst_odd_names::name_without_end()
+{
+    const auto text = [](int length) {
+        return " 1 " + QByteArray(length, 'x') + " km 1.5\n Wo Qd\n 1\n 101.5 1\n";
+    };
+    window_driver driver;
+    driver.open("x.dkl", text(10'000));
+    const int width = driver.names->sizeHintForColumn(0);
+    driver.open("y.dkl", text(500'000));
+    QCOMPARE(driver.names->sizeHintForColumn(0), width);
+    driver.pick(0);
+    driver.press(driver.plot_name);
+    QCOMPARE(drawn_number(driver), 1);
 }
 
 void tst_odd_names::odd_names_of_curves_data()

@@ -64,6 +64,7 @@ TABLE = [
     ("ui/mainwindow_manual", "tst_manual_command", WINDOW),
     ("ui/mainwindow_plots", "tst_plot_commands tst_fixed_ranges", WINDOW),
     ("ui/mainwindow_rename", "tst_rename_command", WINDOW),
+    ("ui/name_delegate", "tst_odd_names", WINDOW),
     ("ui/application_icon", "tst_startup tst_information", WINDOW),
     ("ui/", "tst_layout", WINDOW),
     ("docu/docudialog_accessibility", "tst_docu_keys", DOCU),
