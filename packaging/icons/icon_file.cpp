@@ -12,12 +12,26 @@ constexpr int directory_size = 6;
 constexpr int entry_size = 16;
 constexpr int offset_in_entry = 12; ///< of the place where the picture begins in the file
 
+// A mask of one bit for each pixel ends the picture. Qt leaves what fills its rows up as it was in
+// the memory, and the same drawing would give other bytes each time.
+void clear_row_ends(QByteArray& file, int size)
+{
+    const qsizetype used = (size + 7) / 8;
+    const qsizetype row = (size + 31) / 32 * 4;
+    for (qsizetype end = file.size(); end > file.size() - size * row; end -= row) {
+        for (qsizetype i = end - row + used; i < end; ++i)
+            file[i] = '\0';
+    }
+}
+
 // Qt writes icon files of one picture: a directory, its entry and the picture.
 QByteArray file_of_one(const QImage& picture)
 {
     QBuffer file;
     QImageWriter(&file, "ico").write(picture);
-    return file.data();
+    QByteArray bytes = file.data();
+    clear_row_ends(bytes, picture.width());
+    return bytes;
 }
 
 } // namespace
