@@ -31,6 +31,9 @@ protected:
         const int end = next ? rowCount() * columnCount() - 1 : 0;
         const bool leaves =
             rowCount() == 0 || currentRow() * columnCount() + currentColumn() == end;
-        return leaves ? QWidget::focusNextPrevChild(next) : QTableWidget::focusNextPrevChild(next);
+        setTabKeyNavigation(!leaves);
+        const bool moved = QTableWidget::focusNextPrevChild(next);
+        setTabKeyNavigation(true);
+        return moved;
     }
 };

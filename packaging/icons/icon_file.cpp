@@ -14,7 +14,7 @@ constexpr int offset_in_entry = 12; ///< of the place where the picture begins i
 
 // A mask of one bit for each pixel ends the picture. Qt leaves what fills its rows up as it was in
 // the memory, and the same drawing would give other bytes each time.
-void clear_row_ends(QByteArray& file, int size)
+void clear_row_ends(QByteArray& file, qsizetype size)
 {
     const qsizetype used = (size + 7) / 8;
     const qsizetype row = (size + 31) / 32 * 4;
