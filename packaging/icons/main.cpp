@@ -13,8 +13,9 @@ namespace {
 
 bool write_pictures(const QStringList& words)
 {
-    bool all_written = words.size() > 2;
-    for (const QString& size : words.mid(2)) {
+    const QStringList sizes = words.mid(2);
+    bool all_written = !sizes.isEmpty();
+    for (const QString& size : sizes) {
         const QImage picture = drawn_icon(words[0], size.toInt());
         all_written &= picture.save(words[1] + QLatin1Char('/') + size + QStringLiteral(".png"));
     }

@@ -17,7 +17,7 @@ inline void ask_for_room_to_log(qsizetype characters)
     constexpr qsizetype long_text = 1 << 16; // for all others there is always room
     constexpr qsizetype bytes = 8;           // of a character: twice in UTF-16, once in UTF-8
     if (characters > long_text)
-        const QByteArray room(bytes * characters, Qt::Uninitialized);
+        QByteArray().reserve(bytes * characters);
 }
 
 /// The same for a line that is logged in quotes.

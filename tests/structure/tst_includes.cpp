@@ -50,8 +50,8 @@ QStringList matches_of(const QString& text, const QString& pattern)
 QMap<QString, entries> table()
 {
     QMap<QString, entries> rooms;
-    const QRegularExpression row("^\\| `([^`]+)` \\|[^|]*\\|([^|]*)\\|$",
-                                 QRegularExpression::MultilineOption);
+    static const QRegularExpression row("^\\| `([^`]+)` \\|[^|]*\\|([^|]*)\\|$",
+                                        QRegularExpression::MultilineOption);
     const QString text = text_of("docs/architecture.md");
     for (auto each = row.globalMatch(text); each.hasNext();) {
         const auto match = each.next();
@@ -74,7 +74,8 @@ QString folder_of(const QString& header)
 QStringList includes_of(const QString& room)
 {
     QStringList headers;
-    for (const QString& name : code_in(room)) {
+    const QStringList names = code_in(room);
+    for (const QString& name : names) {
         const QStringList all =
             matches_of(text_of(room + "/" + name), "^#include \"([^\"]+/[^\"]+)\"");
         for (const QString& header : all) {
@@ -153,7 +154,8 @@ void tst_includes::table_has_every_room()
 
 void tst_includes::reading_knows_no_widgets()
 {
-    for (const QString& name : code_in("plot/reading")) {
+    const QStringList names = code_in("plot/reading");
+    for (const QString& name : names) {
         const QStringList headers =
             matches_of(text_of("plot/reading/" + name), "^#include <(Q[^>]+|qwt[^>]+)>");
         for (const QString& header : headers)
@@ -172,7 +174,7 @@ void tst_includes::only_portable_headers_data()
 void tst_includes::only_portable_headers()
 {
     QFETCH(QString, room);
-    const QRegularExpression portable("^(Q\\w*|qwt_\\w+\\.h|[a-z_]+)$");
+    static const QRegularExpression portable("^(Q\\w*|qwt_\\w+\\.h|[a-z_]+)$");
     const QStringList names = code_in(room);
     for (const QString& name : names) {
         const QStringList headers =
