@@ -5,17 +5,12 @@
 #include "fuzz/support/silent_log.h"
 #include "plot/reading/text_lines.h"
 #include "plot/reading/wel_reader.h"
+#include "tests/support/kind_names.h"
 #include "tests/support/literal_reader.h"
 
 namespace {
 
-QStringList names()
-{
-    return {"x_B1.wel", "x_K1.wel", "x_N1.wel", "x_V1.wel",
-            "x_T1.wel", "x_E1.wel", "x_P1.wel", "x.wel"};
-}
-
-constexpr std::uint8_t log_is_off = 0x08;
+constexpr std::uint8_t log_is_off = 0x80;
 
 } // namespace
 
@@ -24,7 +19,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const fuzz_input input(data, size);
     if (has_half_a_pair(input.file))
         return is_no_use;
-    const QString name = input.any_of(names());
+    const QString name = input.any_of(names_of_every_kind() + QStringList{"x.wel"});
     const bool is_logged = (input.choice & log_is_off) == 0;
     start_log(is_logged);
 

@@ -1,4 +1,5 @@
 // Writes the inputs that the fuzzers start from: make_seeds FOLDER makes a folder for each target.
+#include "tests/support/kind_names.h"
 #include "tests/support/random_files.h"
 
 #include <QDir>
@@ -54,7 +55,8 @@ QByteArrayList files_of_kind(const QString& ending, int made_up)
     QByteArrayList files;
     for (const char* folder :
          {EXAMPLES_DIR, TESTS_DIR "/wel/samples", TESTS_DIR "/names/samples"}) {
-        for (const QFileInfo& file : QDir(folder).entryInfoList({"*." + ending}, QDir::Files))
+        const QFileInfoList found = QDir(folder).entryInfoList({"*." + ending}, QDir::Files);
+        for (const QFileInfo& file : found)
             files.append(bytes_of(file.filePath()));
     }
     if (files.isEmpty())
@@ -63,6 +65,14 @@ QByteArrayList files_of_kind(const QString& ending, int made_up)
     for (int i = 0; i < made_up; ++i)
         files.append(random_file("x." + ending, random));
     return files;
+}
+
+// As many as there are kinds of element, and one more for a file of no kind.
+constexpr int each_kind = 0;
+
+int count_of(int choices)
+{
+    return choices == each_kind ? static_cast<int>(names_of_every_kind().size()) + 1 : choices;
 }
 
 struct seed_rule
@@ -74,8 +84,9 @@ struct seed_rule
 };
 
 constexpr seed_rule rules[] = {
-    {"fuzz_wel", "wel", 200, 8},   {"fuzz_names", "bek", 200, 2}, {"fuzz_names", "dkl", 200, 2},
-    {"fuzz_bek", "bek", 300, 3},   {"fuzz_dkl", "dkl", 300, 3},   {"fuzz_lines", "wel", 100, 2},
+    {"fuzz_wel", "wel", 200, each_kind}, {"fuzz_names", "bek", 200, 2},
+    {"fuzz_names", "dkl", 200, 2},       {"fuzz_bek", "bek", 300, 3},
+    {"fuzz_dkl", "dkl", 300, 3},         {"fuzz_lines", "wel", 100, 2},
     {"fuzz_lines", "dkl", 100, 2},
 };
 
@@ -88,12 +99,15 @@ int main(int count, char** arguments)
     const QDir all(arguments[1]);
     for (const seed_rule& rule : rules) {
         seed_folder seeds(all.filePath(QString(rule.target) + "/" + rule.ending));
-        for (const QByteArray& file : files_of_kind(rule.ending, rule.made_up))
-            seeds.add_all(file, rule.choices);
+        const QByteArrayList files = files_of_kind(rule.ending, rule.made_up);
+        for (const QByteArray& file : files)
+            seeds.add_all(file, count_of(rule.choices));
     }
     seed_folder numbers(all.filePath("fuzz_number"));
-    for (const QByteArray& file : files_of_kind("wel", 200)) {
-        for (const QByteArray& line : file.first(std::min(file.size(), longest)).split('\n'))
+    const QByteArrayList files = files_of_kind("wel", 200);
+    for (const QByteArray& file : files) {
+        const QByteArrayList lines = file.first(std::min(file.size(), longest)).split('\n');
+        for (const QByteArray& line : lines)
             numbers.add(line);
     }
     return EXIT_SUCCESS;

@@ -1,5 +1,6 @@
 #include "plot/korimo_plot.h"
 #include "tests/support/document_dump.h"
+#include "tests/support/kind_names.h"
 #include "tests/support/literal_curve_reader.h"
 #include "tests/support/log_capture.h"
 #include "tests/support/plot_pair.h"
@@ -68,9 +69,11 @@ QString name_to_read(const QString& path, const QStringList& others, QRandomGene
 void tst_random_files::files_data()
 {
     QTest::addColumn<QString>("name");
-    for (const char* name : {"x_B1.wel", "x_K1.wel", "x_N1.WEL", "x_V1.Wel", "x_T1.wel", "x_E1.wel",
-                             "x_P1.wel", "x_p1.wel", "x.wel", "x_P.bek", "x.DKL", "x_K.txt"})
-        QTest::newRow(name) << QString(name);
+    const QStringList others{"x_N.WEL", "x_V.Wel", "x_p1.wel", "x.wel",
+                             "x_P.bek", "x.DKL",   "x_K.txt"};
+    const QStringList names = names_of_every_kind() + others;
+    for (const QString& name : names)
+        QTest::newRow(qPrintable(name)) << name;
 }
 
 void tst_random_files::files()

@@ -1,4 +1,6 @@
+#include "plot/drawing/curve_table.h"
 #include "plot/korimo_plot.h"
+#include "plot/reading/element_kinds.h"
 #include "tests/support/document_dump.h"
 #include "tests/support/literal_curve_reader.h"
 #include "tests/support/log_capture.h"
@@ -12,11 +14,12 @@
 
 #include <QApplication>
 #include <QDir>
-#include <QHash>
 #include <QListWidget>
 #include <QPushButton>
 #include <QSet>
 #include <QTest>
+
+#include <algorithm>
 
 namespace {
 
@@ -28,23 +31,22 @@ int walk_length()
     return is_number && wanted > 0 ? wanted : 5000;
 }
 
-QByteArray rows_of(int columns)
+QByteArray rows_of(std::size_t columns)
 {
-    return "Ganglinien\n0" + QByteArray(" 1.5").repeated(columns - 1) + "\n72" +
-           QByteArray(" 20").repeated(columns - 1) + "\n";
+    const auto others = static_cast<qsizetype>(columns - 1);
+    return "Ganglinien\n0" + QByteArray(" 1.5").repeated(others) + "\n72" +
+           QByteArray(" 20").repeated(others) + "\n";
 }
 
 void write_files(const QTemporaryDir& folder)
 {
+    for (const element_kind& kind : element_kinds())
+        write_file(folder.filePath(u'd' + kind.markers[0].toString() + QStringLiteral(".wel")),
+                   rows_of(kind.columns.size()));
     const QList<std::pair<const char*, QByteArray>> files{
         {"a_K.wel", node_file(9)},
         {"b_N.wel", node_file(90)},
         {"c_B.wel", rows_of(7)},
-        {"d_B.wel", rows_of(9)},
-        {"e_T.wel", rows_of(10)},
-        {"f_V.wel", rows_of(4)},
-        {"g_P.wel", rows_of(3)},
-        {"h_E.wel", rows_of(2)},
         {"i.wel", rows_of(3)},
         {"j_P.wel", ""},
         {"k.bek", basin_table()},
@@ -58,13 +60,15 @@ void write_files(const QTemporaryDir& folder)
         write_file(folder.filePath(name), bytes);
 }
 
-// How many curves the lower and the upper plot have in each mode.
+// How many curves the lower and the upper plot have in a mode.
 std::pair<qsizetype, qsizetype> curve_counts(int plot_mode)
 {
-    static const QHash<int, std::pair<qsizetype, qsizetype>> counts{
-        {-1, {0, 0}}, {0, {2, 2}}, {1, {3, 1}}, {2, {2, 0}}, {3, {3, 0}},
-        {5, {2, 0}},  {6, {1, 0}}, {8, {1, 0}}, {9, {2, 1}}};
-    return counts.value(plot_mode, {-1, -1});
+    const plot_mode_rule* const mode = plot_mode_rule_of(plot_mode);
+    if (!mode)
+        return {0, 0};
+    const auto lower = std::ranges::count(mode->curves, plot_place::lower, &curve_rule::place);
+    const auto all = static_cast<qsizetype>(mode->curves.size());
+    return {lower, all - lower};
 }
 
 QStringList texts_of(const QListWidget* list)

@@ -1,3 +1,4 @@
+#include "plot/reading/element_kinds.h"
 #include "tests/support/random_choice.h"
 #include "tests/support/random_files.h"
 
@@ -47,11 +48,21 @@ QByteArray number(QRandomGenerator& random)
     return QByteArray::number(value, "fge"[random.bounded(3)], random.bounded(0, 9));
 }
 
+// Rows of the length of a kind are the rule, over-long ones the exception that ends the file.
+QList<int> row_lengths()
+{
+    QList<int> lengths{0, 1, 2, 7, 8, 11, 12};
+    for (const element_kind& kind : element_kinds()) {
+        for (const column_routing* columns : {&kind.columns, &kind.columns_of_seven})
+            lengths.append(static_cast<int>(columns->size()));
+    }
+    return lengths;
+}
+
 QByteArray number_row(QRandomGenerator& random)
 {
     QByteArray row;
-    // Rows of the length of a kind are the rule, over-long ones the exception that ends the file.
-    static const QList<int> lengths = {0, 1, 2, 2, 2, 3, 3, 4, 4, 7, 7, 8, 9, 9, 10, 10, 11, 12};
+    static const QList<int> lengths = row_lengths();
     for (int n = any_of(lengths, random); n > 0; --n)
         row += QByteArray(random.bounded(1, 4), ' ') + number(random);
     if (once_in(4, random))

@@ -29,8 +29,9 @@ class Results:
         self.lock = threading.Lock()
         if file.exists():
             for line in file.read_text(encoding="utf-8").splitlines():
-                stamp, key, verdict = line.split("\t")
-                self.known[(stamp, key)] = verdict
+                columns = line.split("\t")
+                if len(columns) == 3:  # the last line of an interrupted call may be cut off
+                    self.known[(columns[0], columns[1])] = columns[2]
 
     def _stamp(self, path: str, verdict: str) -> str:
         if path not in self.of_file:
