@@ -13,7 +13,7 @@ try_out_package() {
     "$folder/trial/"
   chmod -R a+rX -- "$folder/trial"
   local -a command=(mmdebstrap --mode="$mode" --format=null --variant=apt
-    --include=passwd,util-linux --dpkgopt='force-unsafe-io' --aptopt="$cache_dir/apt-policy"
+    '--include=passwd,util-linux' --dpkgopt='force-unsafe-io' --aptopt="$cache_dir/apt-policy"
     --customize-hook="copy-in '$folder/trial' /opt"
     --customize-hook='chroot "$1" bash /opt/trial/try_out.sh'
     --customize-hook="copy-out /opt/trial/pictures '$folder'"
