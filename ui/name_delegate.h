@@ -1,9 +1,10 @@
 #pragma once
 
+#include "plot/shown_text.h"
+
 #include <QStyledItemDelegate>
 
-/// Shows the names in a list: of one without an end only the start, since laying out all of it
-/// takes seconds for each megabyte, each time it is drawn.
+/// Shows the names in a list: of one without an end only the start, as plots do.
 class name_delegate : public QStyledItemDelegate
 {
 public:
@@ -11,7 +12,6 @@ public:
 
     QString displayText(const QVariant& value, const QLocale& locale) const override
     {
-        constexpr qsizetype longest = 10'000;
-        return QStyledItemDelegate::displayText(value, locale).left(longest);
+        return QStyledItemDelegate::displayText(value, locale).left(longest_shown_text);
     }
 };
