@@ -1,7 +1,7 @@
 // Drives the viewer with a large file, or with all files of a folder: drops what the command line
 // names onto the window, selects the first row, plots or reads it, plots some of the names that it
-// offers, and closes. Without an argument it closes at once. Boxes that come up are counted on
-// standard output.
+// offers, and closes. Without an argument it closes at once. Standard output tells what the window
+// shows in the end, and the boxes that came up.
 
 #include "bench/first_paint.h"
 #include "ui/mainwindow.h"
@@ -16,6 +16,9 @@
 #include <QPushButton>
 #include <QTimer>
 #include <QUrl>
+
+#include <qwt_plot.h>
+#include <qwt_plot_curve.h>
 
 #include <cstdio>
 
@@ -55,6 +58,23 @@ void plot_some_names(const MainWindow& window)
     }
 }
 
+int rows_of(const MainWindow& window, const char* list)
+{
+    return window.findChild<QListWidget*>(list)->count();
+}
+
+// Lists, and for each curve of the lower plot how many points it has.
+void tell_what_is_shown(const MainWindow& window)
+{
+    std::printf("%d files, %d names", rows_of(window, "listWidget"),
+                rows_of(window, "listWidget_2"));
+    const auto curves =
+        window.findChild<QwtPlot*>("qwtPlot")->itemList(QwtPlotItem::Rtti_PlotCurve);
+    for (const QwtPlotItem* const item : curves)
+        std::printf(", %zu points", dynamic_cast<const QwtPlotCurve&>(*item).dataSize());
+    std::printf("\n");
+}
+
 } // namespace
 
 void first_painted(QMainWindow& shown)
@@ -69,11 +89,9 @@ void first_painted(QMainWindow& shown)
         window.findChild<QListWidget*>("listWidget")->setCurrentRow(0);
         window.findChild<QPushButton*>("pushButton")->click();
         QCoreApplication::processEvents(); // both plots are painted
-        const auto* const names = window.findChild<QListWidget*>("listWidget_2");
-        std::printf("rows: %d, names: %d\n", window.findChild<QListWidget*>("listWidget")->count(),
-                    names->count());
-        if (names->count() > 0)
+        if (rows_of(window, "listWidget_2") > 0)
             plot_some_names(window);
+        tell_what_is_shown(window);
     }
     window.findChild<QAction*>("action_schliessen")->trigger();
 }

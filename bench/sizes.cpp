@@ -1,5 +1,6 @@
 // How much time and memory the viewer needs for files far larger than any real one: each in a
 // process of its own, from its start to its end, less what the same process needs without a file.
+// What the viewer shows in the end must be right, too.
 
 #include "bench/child_process.h"
 #include "bench/wel_files.h"
@@ -25,9 +26,10 @@ struct size
     const char* what;
     const char* name;
     std::function<void(const QString& path)> make;
-    double megabytes; ///< limit of the memory
-    double seconds;   ///< limit of the time
-    bool log = false; ///< with the debug log on
+    double megabytes;  ///< limit of the memory
+    double seconds;    ///< limit of the time
+    std::string shown; ///< what one_size tells of the window
+    bool log = false;  ///< with the debug log on
 };
 
 // Writes `start`, then `piece` until the file has so many bytes, then `end`.
@@ -46,9 +48,9 @@ void write_repeated(const QString& path, const QByteArray& start, const QByteArr
 }
 
 std::function<void(const QString&)> repeated(const QByteArray& start, const QByteArray& piece,
-                                             qint64 bytes)
+                                             qint64 bytes, const QByteArray& end = "\n")
 {
-    return [=](const QString& path) { write_repeated(path, start, piece, bytes); };
+    return [=](const QString& path) { write_repeated(path, start, piece, bytes, end); };
 }
 
 std::function<void(const QString&)> rows(qsizetype count)
@@ -99,25 +101,43 @@ void make_many_curves(const QString& path)
     }
 }
 
+// What the window shows of a WEL file with so many rows for both curves of a node.
+std::string node_of(qsizetype count)
+{
+    const std::string points = std::to_string(count) + " points";
+    return "1 files, 0 names, " + points + ", " + points;
+}
+
 QList<size> sizes()
 {
     const QByteArray title = "Ganglinien Knoten K1\n0 1 2\n";
     const double series_of_rows = 80.0; // bytes: ten columns
+    const std::string one_point = node_of(1);
+    const std::string nothing = "box: Error plotting curve\n1 files, 0 names";
     return {
-        {"10,000,000 rows", "x_K.wel", rows(10'000'000), 1.6 * series_of_rows * 10, 20},
-        {"5 GB of rows", "x_K.wel", rows(rows_of_five_gb), 1.6 * series_of_rows * 45.9, 120},
+        {"10,000,000 rows", "x_K.wel", rows(10'000'000), 1.6 * series_of_rows * 10, 20,
+         node_of(10'000'000)},
+        {"5 GB of rows", "x_K.wel", rows(rows_of_five_gb), 1.6 * series_of_rows * 45.9, 120,
+         node_of(rows_of_five_gb)},
         {"5 GB without a row", "x_K.wel", repeated(title, "Text und keine Zahl\n", five_gb), 20,
-         240},
-        {"5 GB in one line", "x_K.wel", make_hole, 700, 20},
-        {"100 MB, one token", "x_K.wel", repeated(title, "1234567890", hundred_mb), 1000, 10},
-        {"100 MB, many tokens", "x_K.wel", repeated(title, "1 ", hundred_mb), 1500, 10},
-        {"the same with the log", "x_K.wel", repeated(title, "1 ", hundred_mb), 3000, 20, true},
-        {"100 MB in one line, BEK", "x.bek", repeated("", "   B1    101.50", hundred_mb), 700, 10},
+         240, "?"},
+        {"5 GB in one line", "x_K.wel", make_hole, 700, 20, "?"},
+        {"100 MB, one token", "x_K.wel", repeated(title, "1234567890", hundred_mb), 1000, 10, "?"},
+        {"100 MB, many tokens", "x_K.wel", repeated(title, "1 ", hundred_mb), 1500, 10, one_point},
+        {"the same with the log", "x_K.wel", repeated(title, "1 ", hundred_mb), 3000, 20, one_point,
+         true},
+        {"a title of 100 MB", "x_K.wel", repeated("", "Ganglinien ", hundred_mb, "\n0 1 2\n"), 1000,
+         10, "?"},
+        {"100 MB in one line, BEK", "x.bek", repeated("", "   B1    101.50", hundred_mb), 700, 10,
+         "?"},
         {"100 MB in one line, DKL", "x.dkl", repeated("", " 1 Auslass1 km 1.5", hundred_mb), 4000,
-         20},
-        {"100,000 names, BEK", "x.bek", make_many_basins, 100, 10},
-        {"100,000 names, DKL", "x.dkl", make_many_curves, 100, 10},
-        {"10,000 files", "files", make_many_files, 100, 10},
+         20, "?"},
+        {"a name of 100 MB, DKL", "x.dkl",
+         repeated(" 1 ", "Auslass", hundred_mb, " km 1.5\n Wo Qd\n 2\n 101.5 1\n 102 2\n"), 4000,
+         20, "?"},
+        {"100,000 names, BEK", "x.bek", make_many_basins, 100, 10, "1 files, 100000 names, ?"},
+        {"100,000 names, DKL", "x.dkl", make_many_curves, 100, 10, "1 files, 100000 names, ?"},
+        {"10,000 files", "files", make_many_files, 100, 10, "?"},
     };
 }
 
@@ -129,8 +149,15 @@ bench::ended_process run(const std::string& path, bool log)
                                bench::built_beside("one_size"), path});
 }
 
-// Prints a line for the size and answers whether it keeps its limits.
-bool measure(const size& each, const bench::ended_process& without_file)
+struct result
+{
+    double seconds;
+    double megabytes;
+    const char* verdict;
+};
+
+// Less what the process needs without a file.
+result measure(const size& each, const bench::ended_process& without_file)
 {
     const QTemporaryDir folder;
     const QString path = folder.filePath(each.name);
@@ -138,16 +165,25 @@ bool measure(const size& each, const bench::ended_process& without_file)
     const bench::ended_process process = run(path.toStdString(), each.log);
     const double seconds = (process.milliseconds - without_file.milliseconds) / 1000;
     const double megabytes = process.peak_megabytes - without_file.peak_megabytes;
-    const bool is_kept =
-        process.succeeded && seconds <= each.seconds && megabytes <= each.megabytes;
-    std::printf("%-26s %8.2f s  limit %4.0f  %8.1f MB  limit %5.0f  %s\n%s", each.what, seconds,
-                each.seconds, megabytes, each.megabytes,
-                !process.succeeded ? "failed"
-                : is_kept          ? "ok"
-                                   : "over",
-                process.output.c_str());
+    const bool is_over = seconds > each.seconds || megabytes > each.megabytes;
+    const bool is_right = process.output == each.shown + "\n";
+    if (!is_right)
+        std::printf("shown: %swanted: %s\n", process.output.c_str(), each.shown.c_str());
+    return {seconds, megabytes,
+            !process.succeeded ? "failed"
+            : !is_right        ? "wrong"
+            : is_over          ? "over"
+                               : "ok"};
+}
+
+// Prints a line for the size and answers whether all is well.
+bool is_well(const size& each, const bench::ended_process& without_file)
+{
+    const result found = measure(each, without_file);
+    std::printf("%-26s %8.2f s  limit %4.0f  %8.1f MB  limit %5.0f  %s\n", each.what, found.seconds,
+                each.seconds, found.megabytes, each.megabytes, found.verdict);
     std::fflush(stdout);
-    return is_kept;
+    return std::string_view(found.verdict) == "ok";
 }
 
 } // namespace
@@ -157,9 +193,9 @@ int main()
     const bench::ended_process without_file = run("", false);
     if (!without_file.succeeded)
         qFatal("the viewer does not run");
-    bool all_kept = true;
+    bool all_are_well = true;
     const auto all = sizes();
     for (const size& each : all)
-        all_kept = measure(each, without_file) && all_kept;
-    return all_kept ? 0 : 1;
+        all_are_well = is_well(each, without_file) && all_are_well;
+    return all_are_well ? 0 : 1;
 }

@@ -1,5 +1,6 @@
 #include "ui/mainwindow.h"
 
+#include "plot/shown_text.h"
 #include "ui/application_icon.h"
 #include "ui/image_file_name.h"
 #include "ui/ui_mainwindow.h"
@@ -87,6 +88,6 @@ void MainWindow::on_action_speicher_triggered()
     QMessageBox box;
     box.setWindowIcon(application_icon());
     box.setTextFormat(Qt::PlainText); // names may look like mark-up
-    box.setText(QStringLiteral("File saved to ") + file);
+    box.setText(QStringLiteral("File saved to ") + file.left(longest_shown_text));
     box.exec();
 }

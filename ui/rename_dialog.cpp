@@ -1,5 +1,6 @@
 #include "ui/rename_dialog.h"
 
+#include "ui/name_delegate.h"
 #include "ui/ui_rename_dialog.h"
 
 rename_dialog::rename_dialog(QWidget* parent)
@@ -7,6 +8,7 @@ rename_dialog::rename_dialog(QWidget* parent)
     , ui(std::make_unique<Ui::rename_dialog>())
 {
     ui->setupUi(this);
+    ui->tableWidget->setItemDelegate(new name_delegate(this));
     connect(ui->pushButton, SIGNAL(clicked()), this, SLOT(fetch_all_rows()));
     connect(ui->pushButton_2, SIGNAL(clicked()), this, SLOT(close()));
 }

@@ -45,6 +45,7 @@ private slots:
     void form();
     void texts();
     void one_row_for_each_name();
+    void name_without_end();
     void old_names_can_be_edited_without_effect();
     void nothing_typed();
     void one_name_typed();
@@ -101,6 +102,20 @@ void tst_rename_dialog::one_row_for_each_name()
     QCOMPARE(texts_of_column(shown.dialog, 1), QStringList(4, ""));
     QCOMPARE(shown.table->item(0, 0)->flags(), QTableWidgetItem().flags());
     QCOMPARE(shown.table->item(0, 0)->type(), 0);
+}
+
+// To lay out all of it would take seconds, each time it is drawn; only its start is shown.
+void tst_rename_dialog::name_without_end()
+{
+    shown_dialog shown;
+    const QString name(2'000'000, 'x');
+    shown.dialog.set_old_names({name.first(10'000)});
+    shown.table->resizeColumnToContents(0);
+    const int width = shown.table->columnWidth(0);
+    shown.dialog.set_old_names({name});
+    shown.table->resizeColumnToContents(0);
+    QCOMPARE(shown.table->columnWidth(0), width);
+    QCOMPARE(shown.table->item(0, 0)->text(), name);
 }
 
 void tst_rename_dialog::old_names_can_be_edited_without_effect()

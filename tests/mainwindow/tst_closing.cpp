@@ -96,6 +96,11 @@ void report_an_unreadable_file(window_driver& driver)
     driver.press(driver.button);
 }
 
+void report_what_cannot_be_plotted(window_driver& driver)
+{
+    driver.open("x.wel", node_file(9));
+}
+
 void open_manuals(window_driver& driver)
 {
     draw(driver);
@@ -269,6 +274,7 @@ void tst_closing::in_every_state_data()
         {"licence", unfold_the_licence, true},
         {"selection error", ask_for_a_selection, true},
         {"unreadable file", report_an_unreadable_file, true},
+        {"plotting error", report_what_cannot_be_plotted, true},
         {"manuals", open_manuals, false},
         {"manual searched", search_in_a_manual, true},
         {"manuals and a box", open_manual_and_box, true},
