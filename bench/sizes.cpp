@@ -19,6 +19,7 @@ constexpr qint64 hundred_mb = 100'000'000;
 constexpr qsizetype rows_of_five_gb = 45'900'000;
 constexpr int files = 10'000;
 constexpr int names = 100'000;
+const QByteArray short_row = "0 1 2 3 4 5 6 7 8 9\n";
 
 // A kind of file, how it is made, and what it may take at most.
 struct size
@@ -61,7 +62,7 @@ std::function<void(const QString&)> rows(qsizetype count)
 // Zeros that take no room on the disk.
 void make_hole(const QString& path)
 {
-    write_repeated(path, "Ganglinien\n0 1 2\n", " ", 0);
+    write_repeated(path, "Ganglinien\n" + short_row, " ", 0);
     if (!QFile::resize(path, five_gb))
         qFatal("a large file cannot be written");
 }
@@ -70,7 +71,7 @@ void make_many_files(const QString& path)
 {
     QDir().mkpath(path);
     for (int i = 0; i < files; ++i)
-        write_repeated(path + QString("/Ergebnis_%1_K.wel").arg(i), "0 1\n", " ", 0);
+        write_repeated(path + QString("/Ergebnis_%1_K.wel").arg(i), short_row, " ", 0);
 }
 
 QByteArray padded(int value)
@@ -110,34 +111,40 @@ std::string node_of(qsizetype count)
 
 QList<size> sizes()
 {
-    const QByteArray title = "Ganglinien Knoten K1\n0 1 2\n";
+    const QByteArray title = "Ganglinien Knoten K1\n" + short_row;
     const double series_of_rows = 80.0; // bytes: ten columns
-    const std::string one_point = node_of(1);
-    const std::string nothing = "box: Error plotting curve\n1 files, 0 names";
+    const std::string nothing =
+        "box: Could not open or read file\n"
+        "box: An Error occured and an invalid plot mode was triggered. Please check the "
+        "selected WEL-Files formatting as well as its name!\n1 files, 0 names";
     return {
         {"10,000,000 rows", "x_K.wel", rows(10'000'000), 1.6 * series_of_rows * 10, 20,
          node_of(10'000'000)},
         {"5 GB of rows", "x_K.wel", rows(rows_of_five_gb), 1.6 * series_of_rows * 45.9, 120,
          node_of(rows_of_five_gb)},
         {"5 GB without a row", "x_K.wel", repeated(title, "Text und keine Zahl\n", five_gb), 20,
-         240, "?"},
-        {"5 GB in one line", "x_K.wel", make_hole, 700, 20, "?"},
-        {"100 MB, one token", "x_K.wel", repeated(title, "1234567890", hundred_mb), 1000, 10, "?"},
-        {"100 MB, many tokens", "x_K.wel", repeated(title, "1 ", hundred_mb), 1500, 10, one_point},
-        {"the same with the log", "x_K.wel", repeated(title, "1 ", hundred_mb), 3000, 20, one_point,
-         true},
-        {"a title of 100 MB", "x_K.wel", repeated("", "Ganglinien ", hundred_mb, "\n0 1 2\n"), 1000,
-         10, "?"},
+         240, node_of(1)},
+        {"5 GB in one line", "x_K.wel", make_hole, 700, 20, nothing},
+        {"100 MB, one token", "x_K.wel", repeated(title, "1234567890", hundred_mb), 1000, 10,
+         node_of(1)},
+        {"100 MB, many tokens", "x_K.wel", repeated(title, "1 ", hundred_mb), 1500, 10, node_of(2)},
+        {"the same with the log", "x_K.wel", repeated(title, "1 ", hundred_mb), 3000, 20,
+         node_of(2), true},
+        {"a title of 100 MB", "x_K.wel", repeated("", "Ganglinien ", hundred_mb, "\n" + short_row),
+         1000, 10, node_of(1)},
         {"100 MB in one line, BEK", "x.bek", repeated("", "   B1    101.50", hundred_mb), 700, 10,
-         "?"},
+         "1 files, 1 names, 1 points, 1 points"},
         {"100 MB in one line, DKL", "x.dkl", repeated("", " 1 Auslass1 km 1.5", hundred_mb), 4000,
-         20, "?"},
+         20, "1 files, 1 names, 0 points"},
         {"a name of 100 MB, DKL", "x.dkl",
          repeated(" 1 ", "Auslass", hundred_mb, " km 1.5\n Wo Qd\n 2\n 101.5 1\n 102 2\n"), 4000,
-         20, "?"},
-        {"100,000 names, BEK", "x.bek", make_many_basins, 100, 10, "1 files, 100000 names, ?"},
-        {"100,000 names, DKL", "x.dkl", make_many_curves, 100, 10, "1 files, 100000 names, ?"},
-        {"10,000 files", "files", make_many_files, 100, 10, "?"},
+         20, "1 files, 1 names, 2 points"},
+        {"100,000 names, BEK", "x.bek", make_many_basins, 100, 10,
+         "1 files, 100000 names, 10 points, 10 points"},
+        {"100,000 names, DKL", "x.dkl", make_many_curves, 100, 10,
+         "1 files, 100000 names, 2 points"},
+        {"10,000 files", "files", make_many_files, 100, 10,
+         "10000 files, 0 names, 1 points, 1 points"},
     };
 }
 

@@ -6,6 +6,7 @@
 #include <QMimeData>
 #include <QMouseEvent>
 #include <QTest>
+#include <QTimer>
 #include <QUrl>
 #include <QWidget>
 
@@ -42,8 +43,9 @@ private:
     QList<QUrl> urls;
 };
 
-// Drags with the left button from the middle of `source` to a place on the screen.
-void drag_to(const QWidget& source, const QPoint& target)
+// Drags with the left button from the middle of `source` to a place on the screen, without letting
+// go.
+void drag_over(const QWidget& source, const QPoint& target)
 {
     const QPoint start = source.mapToGlobal(source.rect().center());
     QStringList words{"mousemove",
@@ -60,8 +62,12 @@ void drag_to(const QWidget& source, const QPoint& target)
         words +=
             {"mousemove", QString::number(point.x()), QString::number(point.y()), "sleep", "0.1"};
     }
-    words += {"sleep", "0.5", "mouseup", "1"};
     start_xdotool(words);
+}
+
+void let_go_in(int milliseconds)
+{
+    QTimer::singleShot(milliseconds, [] { start_xdotool({"mouseup", "1"}); });
 }
 
 } // namespace
@@ -78,6 +84,7 @@ private slots:
     void change_of_file_and_removal();
     void message_without_selection();
     void closing_from_the_menu();
+    void closing_below_a_drag();
 };
 
 void tst_hydrograph_road::file_dialog_by_typing()
@@ -123,7 +130,8 @@ void tst_hydrograph_road::drop_from_another_program()
     QVERIFY(QTest::qWaitForWindowExposed(&source));
     for (int run = 0; run < 2; ++run) { // the second drop adds nothing
         source.finished = false;
-        drag_to(source, program->on_screen(place::files.center()));
+        drag_over(source, program->on_screen(place::files.center()));
+        let_go_in(2500);
         QTRY_VERIFY_WITH_TIMEOUT(source.finished, 10000);
         QCOMPARE(source.result, Qt::CopyAction);
         QTest::qWait(300);
@@ -215,6 +223,27 @@ void tst_hydrograph_road::closing_from_the_menu()
 {
     program->choose_file_entry(2);
     QCOMPARE(program->exit_code(), 0);
+}
+
+// As the session does; the button stays down until the program is gone. The drag has a loop of its
+// own, which returns no sooner.
+void tst_hydrograph_road::closing_below_a_drag()
+{
+    QVERIFY(program->bring("Erlenbach_K1.wel"));
+    drag_source source({QUrl::fromLocalFile(program->path_of("Erlenbach_K1.wel"))});
+    QVERIFY(QTest::qWaitForWindowExposed(&source));
+    int exit_code = -1;
+    bool was_over = false;
+    QTimer::singleShot(2500, [&] {
+        was_over = !source.finished;
+        viewer::close_by_key();
+        exit_code = program->exit_code();
+        let_go_in(0);
+    });
+    drag_over(source, program->on_screen(place::files.center()));
+    QTRY_VERIFY_WITH_TIMEOUT(source.finished, 20000);
+    QVERIFY(was_over);
+    QCOMPARE(exit_code, 0);
 }
 
 QTEST_APPLESS_MAIN(tst_hydrograph_road)

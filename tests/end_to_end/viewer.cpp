@@ -126,6 +126,12 @@ void viewer::close_main_window() const
     click_in_window(QPoint(931, -10)); // in its frame
 }
 
+void viewer::close_by_key()
+{
+    xdotool({"search", "--onlyvisible", "--name", "^plot_korimo$", "windowactivate", "--sync", "%1",
+             "key", "alt+F4"});
+}
+
 QPoint viewer::on_screen(const QPoint& place) const
 {
     return origin + place * scale();

@@ -38,6 +38,8 @@ public:
     bool bring_manual() const;
     /// Clicks on the button with which the window manager closes the main window.
     void close_main_window() const;
+    /// Presses the window manager's key for it, Alt and F4.
+    static void close_by_key();
 
     void click(const QPoint& place) const;
     /// Clicks at a place of the window, not of its central widget.
