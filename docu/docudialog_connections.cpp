@@ -79,6 +79,5 @@ void DocuDialog::connectSearch()
     // The view does not notice by itself that more has been found, page by page.
     const auto repaint = [this] { pdfView->viewport()->update(); };
     connect(searchModel, &QAbstractItemModel::rowsInserted, this, repaint);
-    connect(searchModel, &QAbstractItemModel::rowsRemoved, this, repaint);
     connect(searchModel, &QAbstractItemModel::modelReset, this, repaint);
 }

@@ -47,6 +47,7 @@ private slots:
     void keys();
     void find_key();
     void hits_are_painted_as_they_come();
+    void late_hit_is_painted();
     void hits_are_highlighted();
 };
 
@@ -192,6 +193,24 @@ void tst_docu_search::hits_are_painted_as_they_come()
     driver.found->setSearchString("nirgends");
     QTRY_COMPARE(driver.found->rowCount({}), 0);
     QTRY_VERIFY(painted.count > with_hits); // and when they go again
+}
+
+// The view has long been painted without it.
+void tst_docu_search::late_hit_is_painted()
+{
+    pdf_file file = numbered_pages(12);
+    file.pages.last() += " Rückhaltebecken";
+    const docu_driver driver(file);
+    QTest::qWait(300);
+    driver.field->setFocus();
+    const paint_counter painted(driver.view->viewport());
+    int before_the_hit = -1;
+    connect(driver.found, &QAbstractItemModel::rowsInserted, this,
+            [&] { before_the_hit = painted.count; });
+    driver.found->setSearchString("Rückhaltebecken");
+    QTRY_COMPARE(driver.found->rowCount({}), 1);
+    QVERIFY(before_the_hit > 0);
+    QTRY_VERIFY(painted.count > before_the_hit);
 }
 
 void tst_docu_search::hits_are_highlighted()
