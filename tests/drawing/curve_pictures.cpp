@@ -145,6 +145,8 @@ bool same_extremes(const QImage& a, const QImage& b, int cap)
 void compare(const QImage& actual, const series& shown, const view& seen, const QString& what)
 {
     const QImage expected = picture_of<QwtPlotCurve>(shown, seen);
+    if (actual == expected)
+        return; // at once, as nearly always
     const int different = different_pixels(expected, actual);
     const QString where = QString("%1 x %2 to %3, y %4 to %5: %6 pixels differ")
                               .arg(what)

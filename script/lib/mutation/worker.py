@@ -14,8 +14,8 @@ from mutants import Mutant
 MEMORY = 6 << 30  # that a test may write to, in bytes; Qt PDF reserves far more
 # What the tests would notice in the debug build of the sanitizers, the assertions tell here.
 FLAGS = "-O1 -w -D_GLIBCXX_ASSERTIONS -DQT_FORCE_ASSERTS"
-# Random tests are long by their numbers; fewer are enough to notice one step.
-SHORTER = {"KORIMO_WALK": "600", "KORIMO_RANDOM_FILES": "400"}
+# Some tests are long by their numbers; less is enough to notice one step.
+SHORTER = {"KORIMO_WALK": "600", "KORIMO_RANDOM_FILES": "400", "KORIMO_LONGEST_CURVE": "10000"}
 # Memory that was not written to must show.
 ENVIRONMENT = SHORTER | {"MALLOC_PERTURB_": "165"}
 
