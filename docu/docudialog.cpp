@@ -45,12 +45,14 @@ DocuDialog::DocuDialog(QWidget* parent)
     splitter->setSizes({sidePanelWidth, width() - sidePanelWidth});
 }
 
-// What the children report while they go would reach a dialog that is half gone itself.
+// What the children report while they go would reach a dialog that is half gone itself. The view
+// goes before its document: pages may be on their way to it from another thread.
 DocuDialog::~DocuDialog()
 {
     const auto children = findChildren<QObject*>();
     for (QObject* child : children)
         child->disconnect(this);
+    delete pdfView;
 }
 
 void DocuDialog::loadDocument(const QString& fileName, int page)

@@ -43,7 +43,8 @@ MainWindow::MainWindow(QWidget* parent)
     ui->pushButton_3->setText(QStringLiteral("Remove File"));
     connect_commands();
     ui->listWidget_2->setSelectionMode(QAbstractItemView::SingleSelection);
-    ui->listWidget_2->setItemDelegate(new name_delegate(ui->listWidget_2));
+    for (QListWidget* const list : {ui->listWidget, ui->listWidget_2})
+        list->setItemDelegate(new name_delegate(list));
     ui->listWidget->setSelectionMode(QAbstractItemView::SingleSelection);
     complete_tab_order();
     name_canvases();

@@ -106,6 +106,7 @@ private:
     static const axis_command& axis_command_of(axis_slot slot);
     void ask_for_range(axis_slot slot);
     static bool has_curves(QwtPlot* plot);
+    static bool is_behind_a_dialog();
     QString idle_button_text() const;
 
     Ui::MainWindow* ui;

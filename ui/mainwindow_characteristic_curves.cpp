@@ -6,6 +6,8 @@
 
 void MainWindow::plotDKl_Clicked()
 {
+    if (is_behind_a_dialog())
+        return;
     const QList<QListWidgetItem*> selected = ui->listWidget_2->selectedItems();
     if (selected.size() != 1) {
         show_selection_error(box_buttons::ok_only);

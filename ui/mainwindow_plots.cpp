@@ -5,6 +5,8 @@
 #include "plot/shown_text.h"
 #include "ui/ui_mainwindow.h"
 
+#include <QApplication>
+
 #include <utility>
 
 namespace {
@@ -25,10 +27,17 @@ void redraw_empty(QwtPlot& plot)
 
 } // namespace
 
+// A screen reader can press the buttons and choose the rows of a blocked window, too. A document
+// must not go while its own box is open.
+bool MainWindow::is_behind_a_dialog()
+{
+    return QApplication::activeModalWidget() != nullptr;
+}
+
 void MainWindow::listWidget_item_changed()
 {
     const QListWidgetItem* const current = ui->listWidget->currentItem();
-    if (!current)
+    if (!current || is_behind_a_dialog())
         return;
     clear_trigger = QStringLiteral("list_item_changed");
     const bool is_wel = file_kind_of(current->text()) == file_kind::wel;
@@ -39,6 +48,8 @@ void MainWindow::listWidget_item_changed()
 
 void MainWindow::buttonClicked()
 {
+    if (is_behind_a_dialog())
+        return;
     ui->listWidget_2->clear();
     if (ui->pushButton->text() == u"Clear") {
         clear_trigger = QStringLiteral("clear_btn");

@@ -168,9 +168,10 @@ void tst_changing_files::written_all_the_time()
     const QString path = folder.filePath(name);
     write_file(path, bytes);
     std::atomic<bool> over = false;
+    std::atomic<int> rounds = 0;
     std::thread writer([&] {
         QRandomGenerator random(4);
-        while (!over) {
+        for (; !over; ++rounds) {
             QFile::resize(path, random.bounded(bytes.size()));
             append(path, bytes.first(random.bounded(bytes.size())));
             overwrite(path, bytes.first(random.bounded(bytes.size())));
@@ -178,7 +179,7 @@ void tst_changing_files::written_all_the_time()
     });
     const log_capture log;
     const modal_boxes boxes;
-    for (int i = 0; i < 25; ++i) {
+    for (int i = 0; i < 25 || rounds < 25; ++i) {
         QLoggingCategory::defaultCategory()->setEnabled(QtDebugMsg, i % 2 == 0);
         const plot_pair plots;
         plots.document->readFile(path);

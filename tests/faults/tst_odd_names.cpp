@@ -149,6 +149,7 @@ void tst_odd_names::bytes_that_are_no_text()
     write_raw(folder + "a\xFF_K.wel", node_file(9));
     drop(driver.window, QUrl::fromEncoded("file://" + folder + "a%FF_K.wel"));
     driver.list->addItem(QFile::decodeName(folder + "a\xFF_K.wel"));
+    QCOMPARE(driver.list->count(), 2);
     for (int row = 0; row < driver.list->count(); ++row) {
         driver.select(row);
         const modal_boxes boxes;

@@ -49,7 +49,9 @@ class tst_picture_faults : public QObject
     Q_OBJECT
 
 private slots:
-    void full_device();
+    void device();
+    void link_to_the_data_file();
+    void name_that_leads_elsewhere();
     void no_more_room_data();
     void no_more_room();
     void earlier_picture_stays_on_a_full_disk();
@@ -60,13 +62,45 @@ private slots:
     void dangling_link();
 };
 
-void tst_picture_faults::full_device()
+// Nothing is written to it, and it is not replaced.
+void tst_picture_faults::device()
 {
     const drawn_window window;
     QVERIFY(QFile::link("/dev/full", window.picture));
     QVERIFY(window.save());
-    QVERIFY(QFile::exists("/dev/full"));
+    QCOMPARE(QFileInfo(window.picture).symLinkTarget(), "/dev/full");
     QVERIFY(window.saves_again());
+}
+
+void tst_picture_faults::link_to_the_data_file()
+{
+    const drawn_window window;
+    const QString data_file = window.driver.folder.filePath("x_K.wel");
+    QVERIFY(QFile::link(data_file, window.picture));
+    QVERIFY(window.save());
+    QFile file(data_file);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QCOMPARE(file.readAll(), node_file(9));
+    QVERIFY(window.saves_again());
+}
+
+// A curve may be called like a file in another folder.
+void tst_picture_faults::name_that_leads_elsewhere()
+{
+    window_driver driver;
+    QVERIFY(QDir(driver.folder.path()).mkdir("a"));
+    const QString other = driver.folder.filePath("a/b_1_sommer.png");
+    write_file(other, "an earlier picture");
+    driver.open("x.dkl", " 1 sommer km a/b\n Wo Qd\n 1\n 101.5 1\n");
+    driver.pick(0);
+    driver.press(driver.plot_name);
+    const modal_boxes boxes;
+    driver.window.findChild<QAction*>("action_speicher")->trigger();
+    QCOMPARE(boxes.shown().size(), 1);
+    QCOMPARE(boxes.shown()[0].text, "File saved to " + other);
+    QFile file(other);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QCOMPARE(file.readAll(), "an earlier picture");
 }
 
 void tst_picture_faults::no_more_room_data()

@@ -177,14 +177,14 @@ void tst_cut_files::every_length_of_curves()
     QFETCH(literal_curve, read);
     QFETCH(curve_slot, slot);
     const QString name = QTest::currentDataTag();
-    const QByteArray whole = first_lines(bytes_of_example(name), 1500);
+    const QByteArray whole = first_lines(bytes_of_example(name), 2048);
     cut_file file(name);
     file.cut(whole, whole.size());
     const QStringList items = read_literally(file.file()).kennlinien_list;
     QVERIFY(!items.isEmpty());
     for (qsizetype length = 0; length <= whole.size(); ++length) {
         file.cut(whole, length);
-        for (const QString& item : {items.first(), items.last()}) {
+        for (const QString& item : items) {
             const QString fault = file.fault_of_curve(item, read, slot);
             QVERIFY2(fault.isEmpty(), qPrintable(fault + " at byte " + QString::number(length)));
         }

@@ -1,4 +1,5 @@
 #include "plot/korimo_plot.h"
+#include "tests/support/modal_answer.h"
 #include "tests/support/modal_boxes.h"
 #include "tests/support/window_driver.h"
 
@@ -7,6 +8,8 @@
 #include <qwt_plot_curve.h>
 #include <qwt_text.h>
 
+#include <QAction>
+#include <QDialog>
 #include <QListWidget>
 #include <QPointer>
 #include <QPushButton>
@@ -59,6 +62,8 @@ private slots:
     void names_vanish_at_any_press();
     void unreadable_file();
     void file_without_marker();
+    void blocked_window_data();
+    void blocked_window();
     void another_file_clears_the_plots();
     void gap_of_the_legend_closes();
     void held_document_is_destroyed_first();
@@ -235,6 +240,40 @@ void tst_plot_commands::file_without_marker()
     QCOMPARE(boxes.shown()[0].title, "Error plotting curve");
     QCOMPARE(driver.lower->title().text(), "Ganglinien Knoten K1");
     QVERIFY(driver.lower->itemList(QwtPlotItem::Rtti_PlotCurve).isEmpty());
+}
+
+void tst_plot_commands::blocked_window_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("command");
+    QTest::newRow("range dialog") << "x_K.wel" << "actionx_Achse_unten";
+    QTest::newRow("rename dialog") << "x_K.wel" << "actionZeitreihe_change_names";
+    QTest::newRow("box of the document") << "x.wel" << "";
+}
+
+// A screen reader can use the window behind a dialog; the document must not go while that is open.
+void tst_plot_commands::blocked_window()
+{
+    QFETCH(QString, name);
+    QFETCH(QString, command);
+    window_driver driver;
+    driver.add("y.bek", basin_table);
+    driver.names->addItem("B1   ");
+    QPointer<korimo_plot> document;
+    const modal_answer<QDialog> user([&](QDialog& dialog) {
+        document = driver.window.shown_document();
+        driver.button->click();
+        driver.list->setCurrentRow(0);
+        driver.names->setCurrentRow(0);
+        driver.plot_name->click();
+        QVERIFY(document && document == driver.window.shown_document());
+        dialog.reject();
+    });
+    driver.open(name, node_file(9));
+    if (!command.isEmpty())
+        driver.window.findChild<QAction*>(command)->trigger();
+    QCOMPARE(user.count(), 1);
+    QVERIFY(document && document == driver.window.shown_document());
 }
 
 void tst_plot_commands::another_file_clears_the_plots()

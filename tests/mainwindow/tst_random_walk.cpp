@@ -54,6 +54,10 @@ void write_files(const QTemporaryDir& folder)
         {"o.BEK", basin_table().replace("2.00  ", "7.00  ")},
         {"p.Dkl", throttle_curves().replace("9.5", "8.5")},
         {"m.bek", "nothing\n"},
+        {"q_K.wel",
+         "0" + QByteArray(" inf").repeated(9) + "\n1" + QByteArray(" 1e308").repeated(9) + "\n2" +
+             QByteArray(" -1e308").repeated(9) + "\nnan" + QByteArray(" nan").repeated(9) + "\n"},
+        {"r_E.wel", "nan nan\n-1e308 1\n1e308 2\n"},
         {"n.txt", basin_table()},
     };
     for (const auto& [name, bytes] : files)
