@@ -11,7 +11,8 @@ int main(int argc, char** argv)
     QApplication application(argc, argv);
     const QIcon icon = application_icon();
     QApplication::setWindowIcon(icon);
-    // Asked, but not heeded: the desktop's own setting alone decides between light and dark.
+    // Deliberate: asked, but not heeded; the desktop's own setting alone decides between light and
+    // dark.
     static_cast<void>(QGuiApplication::styleHints()->colorScheme());
     QFile sheet(QStringLiteral(":styles/look_and_feel/global_style.qss"));
     apply_style_sheet(application, sheet);

@@ -22,7 +22,8 @@ void apply_style_sheet(QApplication& application, QFile& sheet)
 {
     const bool opened = sheet.open(QIODevice::ReadOnly);
     QString text = QString::fromLatin1(opened ? sheet.readAll() : QByteArray());
-    application.setStyleSheet(text);
+    application.setStyleSheet(
+        text); // deliberate: set light first, then for a dark desktop once more
     if (!opened)
         return;
     if (desktop_is_dark())

@@ -36,7 +36,7 @@ void korimo_plot::plot_the_curves(QwtPlot* my_plot, QwtPlot* my_plot_2)
 {
     this->my_plot = my_plot;
     this->my_plot_2 = my_plot_2;
-    if (plot_mode == -1) {
+    if (plot_mode == -1) { // deliberate: "occured", and it draws on
         show_error(QStringLiteral("Error plotting curve"),
                    QStringLiteral("An Error occured and an invalid plot mode was triggered. "
                                   "Please check the selected WEL-Files formatting as well as its "

@@ -87,7 +87,8 @@ void MainWindow::connect_commands()
         {ui->listWidget, SIGNAL(itemSelectionChanged()), SLOT(listWidget_item_changed())},
         // The names of these slots do not match their actions, so nothing connects them by name…
         {ui->action_oeffnen, triggered, SLOT(on_action_oeffenen_triggered())},
-        // …but for this one, which is connected twice: the second close finds the window closed.
+        // …but for this one, which is connected twice. Deliberate: the second close finds the
+        // window closed.
         {ui->action_schliessen, triggered, SLOT(on_action_schliessen_triggered())},
         {ui->actionQt_Licensing_Information, triggered,
          SLOT(on_action_Qt_Licensing_Information_triggered())},
@@ -104,8 +105,8 @@ void MainWindow::on_action_schliessen_triggered()
     close();
 }
 
-// Deliberate: the icon of the box is never set here, and its buttons are not always; it shows those
-// of its last use.
+// Deliberate: "Pleae"; and the icon of the box is never set here, its buttons are not always: it
+// shows those of its last use.
 void MainWindow::show_selection_error(box_buttons buttons)
 {
     if (buttons == box_buttons::ok_only)

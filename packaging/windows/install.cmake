@@ -16,7 +16,8 @@ get_filename_component(qwt_folder "${qwt_library}" DIRECTORY)
 find_file(QWT_DLL NAMES qwt-qt6.dll qwt.dll HINTS "${qwt_folder}" "${qwt_folder}/../bin" REQUIRED)
 install(FILES "${QWT_DLL}" DESTINATION .)
 
-set(QT_DEPLOY_BIN_DIR .)
+# Read when the script runs, not here.
+install(CODE "set(QT_DEPLOY_BIN_DIR .)")
 qt_generate_deploy_app_script(TARGET plot_korimo OUTPUT_SCRIPT deploy_script)
 install(SCRIPT "${deploy_script}")
 

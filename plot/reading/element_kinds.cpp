@@ -4,6 +4,10 @@
 
 namespace {
 
+// What the entries hold of a WEL file: 0 time [h]; 2 hN, 4 heff [mm]; 5 Qab1, 6 Qab2, 8 Qb, 10
+// Qein, 11 QG, 12 Qges, 14 Qab, 20 Qpeg [m3/s]; 23 V [m3]. The others are stored and not drawn; 15
+// is free.
+
 // clang-format off
 constexpr element_kind kinds[] = {
     // name  markers         mode  token  0   1   2   3   4   5   6   7   8   9

@@ -27,7 +27,8 @@ struct element_kind
     }
 };
 
-/// The kinds in the order in which their markers are looked for: the first that matches wins.
+/// The kinds in the order in which their markers are looked for. Deliberate: the first that matches
+/// wins, wherever it stands in the name.
 std::span<const element_kind> element_kinds();
 
 /// The kind of the element that a file of this name (without its folder) holds, by case-sensitive

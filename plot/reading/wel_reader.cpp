@@ -69,7 +69,7 @@ void read_wel(text_lines& lines, QStringView file_name, const wel_target& target
         const column_routing& columns = kind->columns_for(values.size());
         if (!store_row(values, columns, target.series)) {
             log_overlong_row(line, *kind, columns);
-            return;
+            return; // deliberate: such a row ends the reading
         }
     }
 }

@@ -37,8 +37,14 @@ occupy_fuzz_dir() {
   environment=$1 clear_if_foreign "$build_dir/.fuzz_environment" "${build_dir:?}/fuzz"
 }
 
-# Ninja calls CMake again by itself when one of its files changes.
+# In the folder of the project. Ninja calls CMake again by itself when one of its files changes.
 configure_and_build() {
-  [[ -f $build_dir/$1/build.ninja ]] || cmake --preset "$1" || return
+  [[ -f build/$1/build.ninja ]] || cmake --preset "$1" || return
   cmake --build --preset "$1"
+}
+
+# shellcheck disable=SC2016 # the inner bash expands it
+build_preset() {
+  cd -- "$project_dir" || return
+  in_environment bash -c 'source "$0"; configure_and_build "$1"' "$lib/build.sh" "$1"
 }

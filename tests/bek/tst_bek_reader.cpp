@@ -127,7 +127,6 @@ void tst_bek_reader::case_of_the_identifier_matters()
     QCOMPARE(read(line("B1", "1", "1", "1", "1"), "b1   "), series_store());
 }
 
-// The basin stands in two blocks of the file, up to its crest and above it.
 void tst_bek_reader::columns_count_characters()
 {
     const QByteArray bytes = line("B1   HRB M*hlbach", "1", "10", "", "0") +
@@ -147,6 +146,7 @@ void tst_bek_reader::identifiers_beyond_latin_letters()
     QCOMPARE(read(bytes, u"B?   "_s)[1], (values{1}));
 }
 
+// The basin stands in two blocks of the file, up to its crest and above it.
 void tst_bek_reader::slot_reads_a_file()
 {
     const plot_pair plots;

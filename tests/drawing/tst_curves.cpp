@@ -85,7 +85,7 @@ private slots:
 void tst_curves::curves_of_a_mode_data()
 {
     QTest::addColumn<int>("mode");
-    for (int mode = -2; mode <= 11; ++mode) {
+    for (int mode = -2; mode <= 20; ++mode) {
         if (mode != -1)
             QTest::addRow("%d", mode) << mode;
     }

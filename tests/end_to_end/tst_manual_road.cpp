@@ -14,7 +14,7 @@ private slots:
     void page_box();
     void zoom();
     void search();
-    void several_manuals_and_closing();
+    void closed_by_keys();
     void main_window_closed_first();
     void missing_manual();
 
@@ -28,11 +28,11 @@ namespace {
 
 constexpr QLatin1StringView manual_title("plot_korimo: Ganglinien und Kennlinien ansehen");
 
-// Places in the manual's window: the tool bar is as high as its largest item, the tabs stand at
-// the left edge, and the page view fills what is right of the side panel.
 // The key F3 by its code: by its name, xdotool presses Alt with it.
 constexpr QLatin1StringView find_next("69");
 
+// Places in the manual's window: the tool bar is as high as its largest item, the tabs stand at
+// the left edge, and the page view fills what is right of the side panel.
 constexpr int first_line = 60;
 constexpr QPoint first_bookmark(120, first_line);
 constexpr QPoint back_button(15, 17);
@@ -159,7 +159,7 @@ void tst_manual_road::search()
     }));
 }
 
-void tst_manual_road::several_manuals_and_closing()
+void tst_manual_road::closed_by_keys()
 {
     QVERIFY(program->bring_manual());
     open_manual(manual_title);

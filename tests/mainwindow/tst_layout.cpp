@@ -360,7 +360,7 @@ void tst_layout::connections_data()
         SLOT(on_actionZeitreihe_change_names_triggered()));
 }
 
-// Every connection of this kind that is there can be taken off once, for as often as it was made.
+// What is connected can be disconnected. The one command that is connected twice closes twice.
 void tst_layout::connections()
 {
     QFETCH(QByteArray, signal);

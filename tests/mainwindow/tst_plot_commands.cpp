@@ -1,4 +1,6 @@
 #include "plot/korimo_plot.h"
+#include "plot/reading/element_kinds.h"
+#include "tests/support/curve_counts.h"
 #include "tests/support/modal_answer.h"
 #include "tests/support/modal_boxes.h"
 #include "tests/support/window_driver.h"
@@ -104,30 +106,25 @@ void tst_plot_commands::plot_and_clear()
 
 void tst_plot_commands::every_kind_is_drawn_data()
 {
-    QTest::addColumn<int>("columns");
-    QTest::addColumn<int>("lower_curves");
-    QTest::addColumn<int>("upper_curves");
-    QTest::newRow("x_K.wel") << 10 << 2 << 2;
-    QTest::newRow("x_B7.wel") << 7 << 3 << 1;
-    QTest::newRow("x_B9.wel") << 9 << 3 << 1;
-    QTest::newRow("x_T.wel") << 10 << 2 << 0;
-    QTest::newRow("x_V.wel") << 4 << 3 << 0;
-    QTest::newRow("x_P.wel") << 3 << 2 << 0;
-    QTest::newRow("x_E.wel") << 2 << 1 << 0;
+    QTest::addColumn<std::size_t>("columns");
+    QTest::addColumn<int>("mode");
+    for (const element_kind& kind : element_kinds()) {
+        const QByteArray name = 'x' + kind.markers[0].toUtf8();
+        QTest::newRow(name + ".wel") << kind.columns.size() << kind.plot_mode;
+        QTest::newRow(name + "7.wel") << kind.columns_of_seven.size() << kind.plot_mode;
+    }
 }
 
 void tst_plot_commands::every_kind_is_drawn()
 {
-    QFETCH(int, columns);
-    QFETCH(int, lower_curves);
-    QFETCH(int, upper_curves);
+    QFETCH(std::size_t, columns);
+    QFETCH(int, mode);
     window_driver driver;
-    driver.add(QTest::currentDataTag(), "0" + QByteArray(" 1").repeated(columns - 1) + "\n1" +
-                                            QByteArray(" 2").repeated(columns - 1) + "\n");
-    driver.select(0);
-    driver.press(driver.button);
-    QCOMPARE(driver.lower->itemList(QwtPlotItem::Rtti_PlotCurve).size(), lower_curves);
-    QCOMPARE(driver.upper->itemList(QwtPlotItem::Rtti_PlotCurve).size(), upper_curves);
+    driver.open(QTest::currentDataTag(), rows_of(columns));
+    const auto [lower, upper] = curve_counts(mode);
+    QVERIFY(lower > 0);
+    QCOMPARE(driver.lower->itemList(QwtPlotItem::Rtti_PlotCurve).size(), lower);
+    QCOMPARE(driver.upper->itemList(QwtPlotItem::Rtti_PlotCurve).size(), upper);
 }
 
 void tst_plot_commands::button_text_of_a_file_data()

@@ -1,6 +1,6 @@
-#include "plot/drawing/curve_table.h"
 #include "plot/korimo_plot.h"
 #include "plot/reading/element_kinds.h"
+#include "tests/support/curve_counts.h"
 #include "tests/support/document_dump.h"
 #include "tests/support/literal_curve_reader.h"
 #include "tests/support/log_capture.h"
@@ -31,13 +31,6 @@ int walk_length()
     return is_number && wanted > 0 ? wanted : 5000;
 }
 
-QByteArray rows_of(std::size_t columns)
-{
-    const auto others = static_cast<qsizetype>(columns - 1);
-    return "Ganglinien\n0" + QByteArray(" 1.5").repeated(others) + "\n72" +
-           QByteArray(" 20").repeated(others) + "\n";
-}
-
 void write_files(const QTemporaryDir& folder)
 {
     for (const element_kind& kind : element_kinds())
@@ -62,17 +55,6 @@ void write_files(const QTemporaryDir& folder)
     };
     for (const auto& [name, bytes] : files)
         write_file(folder.filePath(name), bytes);
-}
-
-// How many curves the lower and the upper plot have in a mode.
-std::pair<qsizetype, qsizetype> curve_counts(int plot_mode)
-{
-    const plot_mode_rule* const mode = plot_mode_rule_of(plot_mode);
-    if (!mode)
-        return {0, 0};
-    const auto lower = std::ranges::count(mode->curves, plot_place::lower, &curve_rule::place);
-    const auto all = static_cast<qsizetype>(mode->curves.size());
-    return {lower, all - lower};
 }
 
 QStringList texts_of(const QListWidget* list)

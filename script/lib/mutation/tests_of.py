@@ -21,7 +21,7 @@ DOCU = (
     "tst_docu_keys tst_docu_hostile_files tst_manual_command tst_manual_module"
 )
 
-# The first row whose pattern stands in the path holds; the second column comes before the third.
+# The first row with which the path begins holds; the second column comes before the third.
 TABLE = [
     ("plot/reading/bek", "tst_bek_reader tst_name_listing", READING),
     ("plot/reading/dkl_lines", "tst_name_listing tst_dkl_reader", READING),
