@@ -9,7 +9,7 @@
 #include <algorithm>
 
 /// Goes through every command of the program with the examples and leaves numbered pictures of it,
-/// twice as large as on a usual screen so that they can be printed. The manual shows them.
+/// twice as large as on a usual screen so that they can be printed. Manual and README show many.
 class tst_tour : public road
 {
     Q_OBJECT
@@ -184,7 +184,7 @@ void tst_tour::hydrographs()
 void tst_tour::zoom_and_pan()
 {
     plot("Erlenbach_K1.wel");
-    program->wheel(place::lower_plot.center(), 5);
+    program->wheel(place::lower_plot.center(), -5); // nearer
     show_plots("13_gezoomt");
     program->drag_right(place::lower_plot.center(), place::lower_plot.center() + QPoint(120, 0));
     show_plots("14_verschoben");
