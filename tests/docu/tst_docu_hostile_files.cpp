@@ -82,6 +82,8 @@ class tst_docu_hostile_files : public QObject
 
 private slots:
     void truncated();
+    void truncated_manual();
+    void closed_while_pages_are_drawn();
     void flipped_bytes();
     void shuffled_parts();
     void locked();
@@ -104,6 +106,39 @@ void tst_docu_hostile_files::truncated()
     look_at(driver, whole);
     QCOMPARE(driver.dialog->windowTitle(), "Handbuch");
     QCOMPARE(driver.document->pageCount(), 4);
+}
+
+// The program's own, with its streams of objects, fonts and pictures.
+void tst_docu_hostile_files::truncated_manual()
+{
+    QFile file(MANUAL);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const QByteArray whole = file.readAll();
+    const docu_driver driver;
+    constexpr int places = 1000;
+    for (int i = 0; i < places; ++i) {
+        QVERIFY(look_at(driver, whole.first(whole.size() * i / places)) < long_time);
+        QVERIFY(driver.dialog->isVisible());
+    }
+    look_at(driver, whole);
+    QVERIFY(driver.document->pageCount() > 20);
+}
+
+// Pages are drawn beside the event loop, and come in while the window is going.
+void tst_docu_hostile_files::closed_while_pages_are_drawn()
+{
+    const QByteArray bytes = numbered_pages(500).bytes();
+    for (int milliseconds = 0; milliseconds < 20; ++milliseconds) {
+        const docu_driver driver;
+        look_at(driver, bytes);
+        driver.action("Continuous")->trigger();
+        driver.action("Continuous")->trigger();
+        driver.tabs->setCurrentIndex(1);
+        QTest::keyClick(driver.view, Qt::Key_End);
+        QTest::qWait(milliseconds);
+        driver.dialog->close();
+        QTRY_VERIFY(!driver.dialog);
+    }
 }
 
 void tst_docu_hostile_files::flipped_bytes()
