@@ -43,6 +43,14 @@ kinds_are_known() {
     die "the kind of wel files is not known"
 }
 
+icons_are_there() {
+  local size
+  for size in 16 22 24 32 48 64 128 256 512; do
+    [[ -s /usr/share/icons/hicolor/${size}x$size/apps/plot_korimo.png ]] ||
+      die "there is no icon of $size pixels"
+  done
+}
+
 man_page_is_readable() {
   local faults
   faults=$(as_user 'man --warnings plot_korimo' 2>&1 >/dev/null)
@@ -53,6 +61,7 @@ man_page_is_readable() {
 road_can_be_gone() {
   add xvfb openbox xdotool libglib2.0-bin libqt6test6 shared-mime-info man-db fonts-dejavu-core
   kinds_are_known
+  icons_are_there
   man_page_is_readable
   install -d -o guest "$here/pictures"
   as_user "cd $here/pictures && KORIMO_SCREENSHOTS=1 timeout 300 $here/tst_installed_road" ||
@@ -64,7 +73,8 @@ nothing_is_left() {
   apt-get -qq -y purge plot-korimo >/dev/null
   rest=$(find / -xdev \( -path "$here" -o -path /proc -o -path /sys -o -path /home \) -prune -o \
     -iname '*korimo*' -print
-    grep -rIil --exclude-dir=log --exclude-dir=lists --exclude-dir=archives korimo /etc /usr /var || true)
+    grep -rIil --exclude-dir=log --exclude-dir=lists --exclude-dir=archives korimo /etc /usr /var || true
+    grep -ril korimo /usr/share/{mime,icons,applications} || true)
   [[ -z $rest ]] || die "left behind: $rest"
 }
 

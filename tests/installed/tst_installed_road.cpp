@@ -1,5 +1,6 @@
 #include "tests/end_to_end/road.h"
 
+#include <QFile>
 #include <QTest>
 
 /// The program as a package has installed it, started as a desktop starts it: from its entry.
@@ -14,6 +15,7 @@ private slots:
 
 private:
     void add_example(const QString& name);
+    QByteArray log() const;
 };
 
 namespace {
@@ -40,6 +42,12 @@ void tst_installed_road::add_example(const QString& name)
     QTRY_VERIFY(program->sees(first_file_row, Qt::black) > 20);
 }
 
+QByteArray tst_installed_road::log() const
+{
+    QFile file(program->path_of("log"));
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("no log");
+}
+
 void tst_installed_road::hydrographs()
 {
     add_example("Erlenbach_K1.wel");
@@ -55,6 +63,8 @@ void tst_installed_road::hydrographs()
     QTRY_COMPARE(program->sees(place::lower_plot, blue), 0);
     program->close_main_window();
     QVERIFY(viewer::sees_no_window("plot_korimo"));
+    QVERIFY(log().contains("connectSlotsByName")); // a warning of Qt
+    QVERIFY(!log().contains("true"));              // rows, which the entry's setting keeps away
 }
 
 void tst_installed_road::manual()

@@ -16,6 +16,7 @@ MEMORY = 6 << 30  # that a test may write to, in bytes; Qt PDF reserves far more
 FLAGS = "-O1 -w -D_GLIBCXX_ASSERTIONS -DQT_FORCE_ASSERTS"
 # Some tests are long by their numbers; less is enough to notice one step.
 SHORTER = {"KORIMO_WALK": "600", "KORIMO_RANDOM_FILES": "400", "KORIMO_LONGEST_CURVE": "10000"}
+LATE = "took too long"
 # Memory that was not written to must show.
 ENVIRONMENT = SHORTER | {"MALLOC_PERTURB_": "165"}
 
@@ -26,8 +27,8 @@ def _limit_memory():
 
 
 def run(command: list, timeout: float, stop_at: str | None = None) -> tuple[bool, str]:
-    """Whether the command ends well, and its output. It is ended after a time, and with the first
-    line of output that has `stop_at`: a test goes on after a failure, but need not."""
+    """Whether the command ends well, and its output, or else LATE if its time was over. It is ended, too,
+    with the first line of output that has `stop_at`: a test goes on after a failure, but need not."""
     process = subprocess.Popen(
         [str(word) for word in command],
         stdin=subprocess.DEVNULL,
@@ -49,8 +50,9 @@ def run(command: list, timeout: float, stop_at: str | None = None) -> tuple[bool
             break
     process.stdout.close()
     process.wait()
+    is_late = not clock.is_alive()
     clock.cancel()
-    return process.returncode == 0, "".join(output[-60:])
+    return process.returncode == 0, LATE if is_late else "".join(output[-60:])
 
 
 class Worker:
@@ -85,7 +87,7 @@ class Worker:
         """Without a mutant a test must pass; how long that takes tells when to give up later."""
         self._must(self._build_command(test))
         start = time.monotonic()
-        if not self._passes(test, 1200):
+        if not self._test(test, 1200)[0]:
             raise SystemExit(f"{test} fails without a mutant")
         self.usual[test] = time.monotonic() - start
 
@@ -97,13 +99,13 @@ class Worker:
     def _build_command(self, test: str) -> list:
         return ["cmake", "--build", self.build, "--parallel", "1", "--target", test]
 
-    def _passes(self, test: str, timeout: float) -> bool:
+    def _test(self, test: str, timeout: float) -> tuple[bool, str]:
         command = ["ctest", "--test-dir", self.build, "--tests-regex", rf"^{test}\.C$",
                    "--no-tests=error", "--verbose"]
-        return run(command, timeout, stop_at="FAIL!")[0]
+        return run(command, timeout, stop_at="FAIL!")
 
     def try_out(self, mutant: Mutant, tests: list[str]) -> str:
-        """The name of the test that notices it, "invalid" or "survived"."""
+        """The test that notices it, "invalid" or "survived"."""
         copy = self.tree / mutant.path
         text = (self.project / mutant.path).read_text(encoding="utf-8")
         changed = text[: mutant.start] + mutant.replacement + text[mutant.end :]
@@ -124,4 +126,7 @@ class Worker:
     def _verdict(self, test: str) -> str | None:
         if not run(self._build_command(test), 600)[0]:
             return "invalid"
-        return None if self._passes(test, 10 * self.usual[test] + 10) else test
+        passed, output = self._test(test, 10 * self.usual[test] + 10)
+        if passed:
+            return None
+        return f"{test}, which {LATE}" if output == LATE else test
