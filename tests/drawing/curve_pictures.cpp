@@ -155,7 +155,7 @@ void compare(const QImage& actual, const series& shown, const view& seen, const 
                               .arg(seen.y.from)
                               .arg(seen.y.to)
                               .arg(different);
-    QVERIFY2(different <= allowed, qPrintable(where));
+    QVERIFY2(different <= seen.allowed, qPrintable(where));
     QVERIFY2(same_extremes(expected, actual, qCeil(seen.pen.widthF())), qPrintable(where));
 }
 

@@ -51,9 +51,11 @@ private slots:
     void saved_picture();
 };
 
-// As a user zooms and pans: one curve is drawn with one range after the other.
+// As a user zooms and pans: one curve is drawn with one range after the other. In one of these
+// views, a few pixels of a cap differ.
 void tst_long_curve_again::random_views()
 {
+    constexpr int few = 8;
     QRandomGenerator random(5);
     for (const auto& [name, shape] : shapes()) {
         const series shown = made_of(shape, 40000);
@@ -65,7 +67,9 @@ void tst_long_curve_again::random_views()
             const range x = part_of(range_of(shown.x), from, from + random.generateDouble());
             const double low = random.generateDouble() - 0.5;
             const range y = part_of(range_of(shown.y), i % 2 == 0 ? 0.0 : low, low + 1.2);
-            compare(picture_of(curve, {x, y}), shown, {x, y}, name);
+            view seen{x, y};
+            seen.allowed = few;
+            compare(picture_of(curve, seen), shown, seen, name);
         }
     }
 }
@@ -127,7 +131,7 @@ void tst_long_curve_again::other_clips()
                       scale(whole.y, canvas.height() - 1, 0.0), QRectF(image.rect()));
             return image;
         };
-        QVERIFY(different_pixels(clipped(expected), clipped(curve)) <= allowed);
+        QCOMPARE(clipped(curve), clipped(expected));
     }
 }
 
@@ -142,8 +146,7 @@ void tst_long_curve_again::new_samples()
     picture_of(curve, whole);
     QCOMPARE(curve.boundingRect().width(), first.x.last());
     curve.setSamples(second.x, second.y);
-    QVERIFY(different_pixels(picture_of<QwtPlotCurve>(second, whole), picture_of(curve, whole)) <=
-            allowed);
+    QCOMPARE(picture_of(curve, whole), picture_of<QwtPlotCurve>(second, whole));
     QCOMPARE(curve.boundingRect().width(), second.x.last());
 }
 
@@ -230,7 +233,7 @@ void tst_long_curve_again::saved_picture()
         QPainter painter(&image);
         QwtPlotRenderer().render(&plot, &painter, QRectF(image.rect()));
     }
-    QVERIFY(different_pixels(images[0], images[1]) <= allowed);
+    QCOMPARE(images[1], images[0]);
     QImage blank(canvas, QImage::Format_RGB32);
     blank.fill(Qt::white);
     QVERIFY(different_pixels(images[0], blank) > 1000);
