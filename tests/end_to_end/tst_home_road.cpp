@@ -1,5 +1,7 @@
 #include "tests/end_to_end/road.h"
 
+#include <QFile>
+#include <QTemporaryDir>
 #include <QTest>
 
 /// The program for a user whose home folder cannot be written, does not exist or is not told.
@@ -10,6 +12,7 @@ class tst_home_road : public road
 private slots:
     void plot_save_and_read_data();
     void plot_save_and_read();
+    void folder_of_the_last_time();
 };
 
 namespace {
@@ -53,6 +56,26 @@ void tst_home_road::plot_save_and_read()
     keep_screenshot("manual_without_a_home");
     program->close_main_window();
     QCOMPARE(program->exit_code(), 0);
+}
+
+// Qt's dialog remembers at home where it was, but the program's own folder comes first.
+void tst_home_road::folder_of_the_last_time()
+{
+    const QTemporaryDir home;
+    const QTemporaryDir folders[2];
+    QProcessEnvironment environment = without_a_home();
+    environment.insert("HOME", home.path());
+    for (const QTemporaryDir& folder : folders) {
+        program.reset();
+        program = std::make_unique<viewer>(
+            viewer_start{.environment = environment, .folder = folder.path()});
+        QVERIFY(program->is_shown());
+        add_by_typing({"Erlenbach_K1.wel"});
+        QVERIFY(QFile::remove(program->path_of("Erlenbach_K1.wel")));
+        program->close_main_window();
+        QCOMPARE(program->exit_code(), 0);
+        QVERIFY(QFile::exists(home.filePath(".config/QtProject.conf")));
+    }
 }
 
 QTEST_APPLESS_MAIN(tst_home_road)
