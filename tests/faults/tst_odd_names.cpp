@@ -1,6 +1,7 @@
 #include "plot/korimo_plot.h"
 #include "tests/support/modal_boxes.h"
 #include "tests/support/named_curves.h"
+#include "tests/support/read_file.h"
 #include "tests/support/write_file.h"
 
 #include <qwt_plot.h>
@@ -171,9 +172,7 @@ void tst_odd_names::curve_named_like_its_file()
     driver.pick(0);
     driver.press(driver.plot_name);
     save(driver);
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    QCOMPARE(file.readAll(), text);
+    QCOMPARE(read_file(path), text);
 }
 
 // A picture that mark-up names would be read, be it from a device that never ends.

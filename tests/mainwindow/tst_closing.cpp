@@ -3,6 +3,7 @@
 #include "tests/support/named_curves.h"
 #include "tests/support/pdf_file.h"
 #include "tests/support/rename_driver.h"
+#include "tests/support/working_folder.h"
 #include "tests/support/write_file.h"
 #include "ui/rename_dialog.h"
 
@@ -11,7 +12,6 @@
 #include <QAction>
 #include <QApplication>
 #include <QComboBox>
-#include <QDir>
 #include <QDragEnterEvent>
 #include <QElapsedTimer>
 #include <QLineEdit>
@@ -28,7 +28,7 @@
 #include <QWindow>
 
 #include <functional>
-#include <memory>
+#include <optional>
 
 namespace {
 
@@ -227,20 +227,18 @@ private slots:
     void in_every_state();
 
 private:
-    QString start_folder = QDir::currentPath();
-    std::unique_ptr<QTemporaryDir> folder;
+    std::optional<working_folder> folder;
 };
 
 void tst_closing::init()
 {
-    folder = std::make_unique<QTemporaryDir>();
-    QVERIFY(QDir::setCurrent(folder->path()));
+    folder.emplace();
     write_file("01_Handbuch_KORIMO9.pdf", numbered_pages(20).bytes());
 }
 
 void tst_closing::cleanup()
 {
-    QVERIFY(QDir::setCurrent(start_folder));
+    folder.reset();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     const auto widgets = QApplication::topLevelWidgets();
     for (QWidget* const left : widgets)
