@@ -10,15 +10,11 @@
 
 #include <QAction>
 #include <QDir>
-#include <QDragEnterEvent>
-#include <QDropEvent>
 #include <QFont>
 #include <QImage>
 #include <QListWidget>
-#include <QMimeData>
 #include <QPushButton>
 #include <QTest>
-#include <QUrl>
 
 #include <fcntl.h>
 #include <unistd.h>
@@ -26,16 +22,6 @@
 namespace {
 
 using namespace Qt::StringLiterals;
-
-void drop(MainWindow& window, const QUrl& url)
-{
-    QMimeData data;
-    data.setUrls({url});
-    QDragEnterEvent enter(QPoint(9, 9), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-    QCoreApplication::sendEvent(&window, &enter);
-    QDropEvent event(QPointF(9, 9), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-    QCoreApplication::sendEvent(&window, &event);
-}
 
 // The text of the box that saving shows, if it is the only one and takes nothing for mark-up.
 QString save(const window_driver& driver)
@@ -117,7 +103,7 @@ void tst_odd_names::dropped_drawn_and_saved()
     window_driver driver;
     const QString path = driver.folder.path() + "/" + name + ".wel";
     write_file(path, node_file(9));
-    drop(driver.window, QUrl::fromLocalFile(path));
+    driver.drop({QUrl::fromLocalFile(path)});
     QCOMPARE(driver.files(), QStringList{path});
     driver.select(0);
     {
@@ -148,7 +134,7 @@ void tst_odd_names::bytes_that_are_no_text()
     window_driver driver;
     const QByteArray folder = driver.folder.path().toUtf8() + '/';
     write_raw(folder + "a\xFF_K.wel", node_file(9));
-    drop(driver.window, QUrl::fromEncoded("file://" + folder + "a%FF_K.wel"));
+    driver.drop({QUrl::fromEncoded("file://" + folder + "a%FF_K.wel")});
     driver.list->addItem(QFile::decodeName(folder + "a\xFF_K.wel"));
     QCOMPARE(driver.list->count(), 2);
     for (int row = 0; row < driver.list->count(); ++row) {

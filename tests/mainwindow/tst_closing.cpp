@@ -12,7 +12,6 @@
 #include <QAction>
 #include <QApplication>
 #include <QComboBox>
-#include <QDragEnterEvent>
 #include <QElapsedTimer>
 #include <QLineEdit>
 #include <QListWidget>
@@ -24,7 +23,6 @@
 #include <QPushButton>
 #include <QTest>
 #include <QTimer>
-#include <QUrl>
 #include <QWindow>
 
 #include <functional>
@@ -129,8 +127,7 @@ void hover(window_driver& driver)
 {
     static QMimeData data;
     data.setUrls({QUrl("file:///a/x.wel")});
-    QDragEnterEvent event(QPoint(9, 9), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(&driver.window, &event);
+    driver.drag(data);
 }
 
 // The button stays down.
