@@ -9,7 +9,6 @@
 
 #include <qwt_plot_renderer.h>
 
-#include <QFileInfo>
 #include <QImage>
 #include <QPainter>
 #include <QTemporaryDir>
