@@ -2,7 +2,7 @@
 
 #include "docu/open_manual.h"
 
-#include "app/manual_module.h"
+#include "app/manual_loader.h"
 
 #include <QCoreApplication>
 

@@ -1,7 +1,5 @@
 #include "bench/curve_files.h"
 
-#include <QString>
-
 namespace bench {
 
 namespace {

@@ -18,7 +18,7 @@ const char* verdict(const figure& each)
 }
 
 // What was not measured must not look like a good figure.
-std::string amount(double value, const std::string& unit)
+std::string text_of(double value, const std::string& unit)
 {
     if (!(value > 0.0))
         return "-";
@@ -29,28 +29,26 @@ std::string amount(double value, const std::string& unit)
 
 std::string ratio(const figure& each)
 {
-    return amount(each.is_measured() ? each.ratio() : 0.0, "");
+    return text_of(each.is_measured() ? each.ratio() : 0.0, "");
 }
 
 std::string limit(const figure& each)
 {
-    return amount(each.limit.value_or(0.0), "");
+    return text_of(each.limit.value_or(0.0), "");
 }
 
 void print(const figure& each)
 {
     std::printf("%-28s %12s  %6s of %-24s %12s  limit %5s  %s\n", each.what.c_str(),
-                amount(each.milliseconds, each.unit).c_str(), ratio(each).c_str(),
-                each.against.c_str(), amount(each.base_milliseconds, each.unit).c_str(),
-                limit(each).c_str(), verdict(each));
+                text_of(each.amount, each.unit).c_str(), ratio(each).c_str(), each.against.c_str(),
+                text_of(each.base, each.unit).c_str(), limit(each).c_str(), verdict(each));
 }
 
 void append(std::FILE* results, const figure& each)
 {
     std::fprintf(results, "%s\t%s\t%s\t%s, %s\t%s\t%s\t%s\n", each.goal.c_str(), each.what.c_str(),
-                 amount(each.milliseconds, each.unit).c_str(),
-                 amount(each.base_milliseconds, each.unit).c_str(), each.against.c_str(),
-                 ratio(each).c_str(), limit(each).c_str(), verdict(each));
+                 text_of(each.amount, each.unit).c_str(), text_of(each.base, each.unit).c_str(),
+                 each.against.c_str(), ratio(each).c_str(), limit(each).c_str(), verdict(each));
 }
 
 // Without the file nothing would be known of these figures in the end: that must not go unnoticed.

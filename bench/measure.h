@@ -8,14 +8,15 @@
 
 namespace bench {
 
-/// One figure: what was done, how long it took, what it is measured against, how many times that it
-/// may take at most, and the goal that it belongs to. A base that could not be measured is zero.
+/// One figure: what was done, how long it took or how much it needed, what it is measured against,
+/// how many times that it may be at most, and the goal that it belongs to. A base that could not be
+/// measured is zero.
 struct figure
 {
     std::string what;
-    double milliseconds = 0.0; ///< or the amount, if `unit` is another
+    double amount = 0.0;
     std::string against;
-    double base_milliseconds = 0.0;
+    double base = 0.0;
     std::optional<double> limit; ///< none if the figure is only told
     std::string goal = "";
     std::string unit = "ms";
@@ -23,10 +24,10 @@ struct figure
 
     double ratio() const
     {
-        const double times = milliseconds / base_milliseconds;
+        const double times = amount / base;
         return is_deviation ? std::max(times, 1.0 / times) : times;
     }
-    bool is_measured() const { return milliseconds > 0.0 && base_milliseconds > 0.0; }
+    bool is_measured() const { return amount > 0.0 && base > 0.0; }
     bool keeps_limit() const { return is_measured() && (!limit || ratio() <= *limit); }
 };
 

@@ -3,19 +3,14 @@
 // offers, and closes. Without an argument it closes at once. Standard output tells what the window
 // shows in the end, and the boxes that came up.
 
+#include "bench/driven_window.h"
 #include "bench/first_paint.h"
-#include "ui/mainwindow.h"
 
-#include <QAction>
-#include <QApplication>
+#include <QCoreApplication>
 #include <QDir>
-#include <QDropEvent>
 #include <QFileInfo>
 #include <QListWidget>
-#include <QMimeData>
-#include <QPushButton>
-#include <QTimer>
-#include <QUrl>
+#include <QMessageBox>
 
 #include <qwt_plot.h>
 #include <qwt_plot_curve.h>
@@ -33,34 +28,22 @@ QList<QUrl> urls_of(const QString& path)
     return urls.isEmpty() ? QList<QUrl>{QUrl::fromLocalFile(path)} : urls;
 }
 
-// The event cannot be sent: Qt hands drops over only from a drag that is on its way.
-void drop(MainWindow& window, const QList<QUrl>& urls)
+void tell(const QMessageBox& box)
 {
-    QMimeData data;
-    data.setUrls(urls);
-    QDropEvent event(QPointF(1, 1), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-    window.dropEvent(&event);
-}
-
-void close_box()
-{
-    if (auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
-        std::printf("box: %s\n", qPrintable(box->text()));
-        box->accept();
-    }
+    std::printf("box: %s\n", qPrintable(box.text()));
 }
 
 void plot_some_names(const MainWindow& window)
 {
     for (const char* button : {"pushButton_b_start", "pushButton_f", "pushButton_f_end"}) {
-        window.findChild<QPushButton*>(button)->click();
+        bench::press(window, button);
         QCoreApplication::processEvents();
     }
 }
 
 int rows_of(const MainWindow& window, const char* list)
 {
-    return window.findChild<QListWidget*>(list)->count();
+    return bench::list_of(window, list).count();
 }
 
 // Lists, and for each curve of the lower plot how many points it has.
@@ -82,16 +65,12 @@ void first_painted(QMainWindow& shown)
     auto& window = dynamic_cast<MainWindow&>(shown);
     const QString path = QCoreApplication::arguments().value(1);
     if (!path.isEmpty()) {
-        QTimer answer;
-        QObject::connect(&answer, &QTimer::timeout, close_box);
-        answer.start(1);
-        drop(window, urls_of(path));
-        window.findChild<QListWidget*>("listWidget")->setCurrentRow(0);
-        window.findChild<QPushButton*>("pushButton")->click();
+        const bench::box_closer closer(tell);
+        bench::open_first_of(window, urls_of(path));
         QCoreApplication::processEvents(); // both plots are painted
         if (rows_of(window, "listWidget_2") > 0)
             plot_some_names(window);
         tell_what_is_shown(window);
     }
-    window.findChild<QAction*>("action_schliessen")->trigger();
+    bench::choose(window, "action_schliessen");
 }

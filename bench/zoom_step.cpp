@@ -1,15 +1,10 @@
 // How long one step of the wheel takes with a gauge's file: the viewer's lower plot, and a plain
 // Qwt plot with the same two curves. Prints a line with the mean time in milliseconds for each.
 
+#include "bench/driven_window.h"
 #include "bench/measure.h"
-#include "ui/mainwindow.h"
 
 #include <QApplication>
-#include <QDropEvent>
-#include <QListWidget>
-#include <QMimeData>
-#include <QPushButton>
-#include <QUrl>
 
 #include <qwt_legend.h>
 #include <qwt_plot.h>
@@ -23,16 +18,6 @@ namespace {
 
 constexpr int runs = 3;
 constexpr int steps = 10;
-
-void open(MainWindow& window, const QString& path)
-{
-    QMimeData data;
-    data.setUrls({QUrl::fromLocalFile(path)});
-    QDropEvent event(QPointF(1, 1), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-    window.dropEvent(&event);
-    window.findChild<QListWidget*>("listWidget")->setCurrentRow(0);
-    window.findChild<QPushButton*>("pushButton")->click();
-}
 
 // Each step keeps nine tenths of the time range, about its middle.
 void zoom_in(QwtPlot& plot, double end)
@@ -87,7 +72,7 @@ int main(int argc, char** argv)
     const QApplication application(argc, argv);
     MainWindow window;
     window.show();
-    open(window, QCoreApplication::arguments().value(1));
+    bench::open_first_of(window, {QUrl::fromLocalFile(QCoreApplication::arguments().value(1))});
     auto& lower = *window.findChild<QwtPlot*>("qwtPlot");
     const double end = lower.axisInterval(QwtAxis::XBottom).maxValue();
 

@@ -3,7 +3,6 @@
 #include "examples/network.h"
 
 #include <span>
-#include <string>
 #include <string_view>
 
 namespace example {

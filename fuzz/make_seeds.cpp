@@ -1,24 +1,18 @@
 // Writes the inputs that the fuzzers start from: make_seeds FOLDER makes a folder for each target.
 #include "tests/support/kind_names.h"
 #include "tests/support/random_files.h"
+#include "tests/support/read_file.h"
+#include "tests/support/write_file.h"
 
 #include <QDir>
-#include <QFile>
 #include <QRandomGenerator>
 
+#include <algorithm>
 #include <cstdlib>
 
 namespace {
 
 constexpr qsizetype longest = 4000;
-
-QByteArray bytes_of(const QString& path)
-{
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        qFatal("cannot read %s", qPrintable(path));
-    return file.readAll();
-}
 
 class seed_folder
 {
@@ -32,9 +26,7 @@ public:
 
     void add(const QByteArray& seed)
     {
-        QFile file(folder.filePath(QString::number(count++)));
-        if (!file.open(QIODevice::WriteOnly) || file.write(seed) != seed.size())
-            qFatal("cannot write %s", qPrintable(file.fileName()));
+        write_file(folder.filePath(QString::number(count++)), seed);
     }
 
     // With every choice that the first byte is for.
@@ -57,7 +49,7 @@ QByteArrayList files_of_kind(const QString& ending, int made_up)
          {EXAMPLES_DIR, TESTS_DIR "/wel/samples", TESTS_DIR "/names/samples"}) {
         const QFileInfoList found = QDir(folder).entryInfoList({"*." + ending}, QDir::Files);
         for (const QFileInfo& file : found)
-            files.append(bytes_of(file.filePath()));
+            files.append(read_file(file.filePath()));
     }
     if (files.isEmpty())
         qFatal("no sample file ends with %s", qPrintable(ending));

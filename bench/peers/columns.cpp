@@ -1,5 +1,6 @@
 #include "columns.h"
 
+#include <algorithm>
 #include <charconv>
 #include <fstream>
 #include <string>

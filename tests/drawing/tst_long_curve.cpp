@@ -1,14 +1,12 @@
 #include "tests/drawing/curve_pictures.h"
 
-#include <QTest>
-
 #include <QImage>
 #include <QPainter>
-#include <QtMath>
+#include <QTest>
 
-#include <algorithm>
 #include <qwt_scale_map.h>
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
 

@@ -9,7 +9,6 @@
 #include <qwt_point_data.h>
 #include <qwt_scale_map.h>
 
-#include <cmath>
 #include <limits>
 
 namespace {

@@ -59,7 +59,7 @@ void road::add_by_typing(const QStringList& names)
         text += "\"" + name + "\" ";
     }
     program->choose_file_entry(0);
-    QVERIFY(viewer::sees_window("Auswahl der Datei zum Plotten"));
+    QVERIFY(viewer::sees_window(window_title::files));
     QTest::qWait(500);
     program->type(text.trimmed());
     program->key("Return");

@@ -26,17 +26,10 @@ private:
 
 namespace {
 
-constexpr const char* range_title = "Achsenskalierung";
-constexpr const char* names_title = "Zeitreihen umbenennen";
-
 // In the axis dialog and the rename dialog.
 constexpr QPoint minimum_box(100, 101);
 constexpr QPoint first_new_name(190, 50);
 constexpr QPoint rename_ok(270, 270);
-
-// What stands to the left of both canvases, and below the lower one.
-constexpr QRect lower_left_axis(30, 270, 85, 300);
-constexpr QRect lower_legend(600, 260, 110, 60);
 
 constexpr QRect upper_of_picture(0, 0, 681, 200);
 constexpr QRect lower_legend_of_picture(600, 230, 81, 60);
@@ -56,16 +49,16 @@ void tst_commands_road::set_range(const QString& command, const QString& minimum
                                   const QString& maximum)
 {
     program->click_in_window(plan->tool_button(command).center());
-    QVERIFY(viewer::sees_window(range_title));
+    QVERIFY(viewer::sees_window(window_title::range));
     keep_screenshot("range_" + command);
-    viewer::click_in_dialog(range_title, minimum_box);
+    viewer::click_in_dialog(window_title::range, minimum_box);
     program->key("ctrl+a");
     program->type(minimum);
     program->key("Tab");
     program->key("ctrl+a");
     program->type(maximum);
     program->key("Return");
-    QVERIFY(viewer::sees_no_window(range_title));
+    QVERIFY(viewer::sees_no_window(window_title::range));
 }
 
 void tst_commands_road::axes_by_mouse_and_keyboard()
@@ -88,9 +81,9 @@ void tst_commands_road::axes_by_mouse_and_keyboard()
     // The dialog shows what is set: leaving it again changes nothing.
     const QImage before = program->look(place::lower_plot);
     program->click_in_window(plan->tool_button("y-Achse_unten").center());
-    QVERIFY(viewer::sees_window(range_title));
+    QVERIFY(viewer::sees_window(window_title::range));
     program->key("Escape");
-    QVERIFY(viewer::sees_no_window(range_title));
+    QVERIFY(viewer::sees_no_window(window_title::range));
     QCOMPARE(program->look(place::lower_plot), before);
 }
 
@@ -98,10 +91,10 @@ void tst_commands_road::time_axis_of_both_plots()
 {
     plot({"Erlenbach_K1.wel"});
     const QImage upper = program->look(place::upper_plot);
-    const QImage lower_axis = program->look(lower_left_axis);
+    const QImage lower_axis = program->look(place::lower_left_axis);
     set_range("x-Achse_unten", "5", "50");
     QVERIFY(program->look(place::upper_plot) != upper); // follows
-    QCOMPARE(program->look(lower_left_axis), lower_axis);
+    QCOMPARE(program->look(place::lower_left_axis), lower_axis);
 }
 
 // The top axis of the lower plot is not shown, so nothing changes on the screen.
@@ -113,10 +106,10 @@ void tst_commands_road::hidden_axis()
     QCOMPARE(program->look(place::upper_plot | place::lower_plot), before);
     // The dialog tells that the axis has been set all the same.
     program->click_in_window(plan->tool_button("2. X-Achse_unten").center());
-    QVERIFY(viewer::sees_window(range_title));
+    QVERIFY(viewer::sees_window(window_title::range));
     QTest::qWait(500); // until it has the focus
     const QImage shown_again = screenshot();
-    viewer::click_in_dialog(range_title, minimum_box);
+    viewer::click_in_dialog(window_title::range, minimum_box);
     program->key("ctrl+a");
     program->type("5.000");
     program->key("Tab");
@@ -124,7 +117,7 @@ void tst_commands_road::hidden_axis()
     program->type("50.000");
     program->key("Escape");
     program->click_in_window(plan->tool_button("2. X-Achse_unten").center());
-    QVERIFY(viewer::sees_window(range_title));
+    QVERIFY(viewer::sees_window(window_title::range));
     QTRY_COMPARE(screenshot(), shown_again);
     program->key("Escape");
 }
@@ -132,33 +125,33 @@ void tst_commands_road::hidden_axis()
 void tst_commands_road::ranges_outlive_a_change_of_file()
 {
     plot({"Erlenbach_K1.wel", "Erlenbach_N1.wel"});
-    const QImage automatic = program->look(lower_left_axis);
+    const QImage automatic = program->look(place::lower_left_axis);
     set_range("y-Achse_unten", "1", "17");
-    const QImage fixed = program->look(lower_left_axis);
+    const QImage fixed = program->look(place::lower_left_axis);
     QVERIFY(fixed != automatic);
     select_row(1);
     program->click(place::plot_button.center());
     QTRY_VERIFY(program->sees(place::lower_plot, green) > 100);
-    QTRY_COMPARE(program->look(lower_left_axis), fixed);
+    QTRY_COMPARE(program->look(place::lower_left_axis), fixed);
     program->click(place::plot_button.center()); // "Clear"
     program->click(place::plot_button.center());
     QTRY_VERIFY(program->sees(place::lower_plot, green) > 100);
-    QVERIFY(program->look(lower_left_axis) != fixed);
+    QVERIFY(program->look(place::lower_left_axis) != fixed);
 }
 
 void tst_commands_road::new_name_in_the_legend_and_the_picture()
 {
     plot({"Erlenbach_B1.wel"});
-    const QImage legend = program->look(lower_legend);
+    const QImage legend = program->look(place::lower_legend);
     const QImage old_picture = save_picture("Erlenbach_B1.png");
     program->click_in_window(plan->tool_button("Zeitreihen umbenennen").center());
-    QVERIFY(viewer::sees_window(names_title));
-    viewer::click_in_dialog(names_title, first_new_name, 2);
+    QVERIFY(viewer::sees_window(window_title::names));
+    viewer::click_in_dialog(window_title::names, first_new_name, 2);
     program->type("Zufluss");
     keep_screenshot("new_name");
-    viewer::click_in_dialog(names_title, rename_ok);
-    QVERIFY(viewer::sees_no_window(names_title));
-    QVERIFY(program->look(lower_legend) != legend);
+    viewer::click_in_dialog(window_title::names, rename_ok);
+    QVERIFY(viewer::sees_no_window(window_title::names));
+    QVERIFY(program->look(place::lower_legend) != legend);
     const QImage picture = save_picture("Erlenbach_B1.png");
     QVERIFY(picture.copy(lower_legend_of_picture) != old_picture.copy(lower_legend_of_picture));
     QCOMPARE(picture.copy(upper_of_picture), old_picture.copy(upper_of_picture));

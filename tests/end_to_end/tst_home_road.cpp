@@ -52,7 +52,7 @@ void tst_home_road::plot_save_and_read()
     QTRY_VERIFY(program->sees(place::lower_plot, blue) > 100);
     QCOMPARE(save_picture("Erlenbach_K1.png").size(), QSize(681, 581));
     QVERIFY(program->bring_manual());
-    open_manual("plot_korimo: Ganglinien und Kennlinien ansehen");
+    open_manual(window_title::manual);
     keep_screenshot("manual_without_a_home");
     program->close_main_window();
     QCOMPARE(program->exit_code(), 0);

@@ -105,10 +105,10 @@ void tst_hydrograph_road::file_dialog_by_clicking()
     QVERIFY(other.open(QIODevice::WriteOnly));
     other.close();
     program->choose_file_entry(0);
-    QVERIFY(viewer::sees_window("Auswahl der Datei zum Plotten"));
+    QVERIFY(viewer::sees_window(window_title::files));
     QTest::qWait(1000);
     // The first row of the list of files: beside the side bar, below the tool buttons.
-    viewer::click_in_dialog("Auswahl der Datei zum Plotten", QPoint(200, 72));
+    viewer::click_in_dialog(window_title::files, QPoint(200, 72));
     xdotool({"key", "alt+o"});
     QTRY_VERIFY(program->sees(first_file_row, Qt::black) > 20);
     select_row(0);

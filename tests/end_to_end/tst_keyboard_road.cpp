@@ -23,18 +23,6 @@ private:
     void read_manual() const;
 };
 
-namespace {
-
-constexpr const char* files_title = "Auswahl der Datei zum Plotten";
-constexpr const char* range_title = "Achsenskalierung";
-constexpr const char* names_title = "Zeitreihen umbenennen";
-constexpr const char* manual_title = "plot_korimo: Ganglinien und Kennlinien ansehen";
-
-constexpr QRect lower_left_axis(30, 270, 85, 300);
-constexpr QRect lower_legend(600, 260, 110, 60);
-
-} // namespace
-
 void tst_keyboard_road::press(const QStringList& keys) const
 {
     for (const QString& key : keys)
@@ -54,7 +42,7 @@ void tst_keyboard_road::add_by_keys(const QStringList& names)
         text += "\"" + name + "\" ";
     }
     press({"Alt_L", "Down", "Return"});
-    QVERIFY(viewer::sees_window(files_title));
+    QVERIFY(viewer::sees_window(window_title::files));
     QTest::qWait(500);
     program->type(text.trimmed());
     press({"Return"});
@@ -64,7 +52,7 @@ void tst_keyboard_road::add_by_keys(const QStringList& names)
 // "OK" has the focus at first.
 void tst_keyboard_road::set_values(const QString& minimum, const QString& maximum) const
 {
-    QVERIFY(viewer::sees_window(range_title));
+    QVERIFY(viewer::sees_window(window_title::range));
     QTest::qWait(500);
     keep_screenshot("range_by_keys");
     press({"Tab", "Tab", "ctrl+a"});
@@ -72,19 +60,19 @@ void tst_keyboard_road::set_values(const QString& minimum, const QString& maximu
     press({"Tab", "ctrl+a"});
     program->type(maximum);
     press({"Return"});
-    QVERIFY(viewer::sees_no_window(range_title));
+    QVERIFY(viewer::sees_no_window(window_title::range));
 }
 
 // To type opens the cell, the first Enter key closes it and the second the dialog.
 void tst_keyboard_road::rename_first_curve(const QString& name) const
 {
-    QVERIFY(viewer::sees_window(names_title));
+    QVERIFY(viewer::sees_window(window_title::names));
     QTest::qWait(500);
     press({"Right"});
     program->type(name);
     keep_screenshot("new_name_by_keys");
     press({"Return", "Return"});
-    QVERIFY(viewer::sees_no_window(names_title));
+    QVERIFY(viewer::sees_no_window(window_title::names));
 }
 
 void tst_keyboard_road::save_by_keys(const QString& picture) const
@@ -100,7 +88,7 @@ void tst_keyboard_road::read_manual() const
 {
     const auto page = [] { return screenshot().copy(500, 150, 500, 700); };
     press({"Alt_L", "Right", "Right", "Down", "Return"});
-    QVERIFY(viewer::sees_window(manual_title));
+    QVERIFY(viewer::sees_window(window_title::manual));
     QTest::qWait(1000); // until the first page has been drawn
     const QImage first = page();
     tab(2);
@@ -111,7 +99,7 @@ void tst_keyboard_road::read_manual() const
     press({"space"});
     QTRY_COMPARE(page(), first);
     press({"Escape"});
-    QVERIFY(viewer::sees_no_window(manual_title));
+    QVERIFY(viewer::sees_no_window(window_title::manual));
 }
 
 void tst_keyboard_road::hydrograph()
@@ -127,17 +115,17 @@ void tst_keyboard_road::hydrograph()
     press({"minus"});
     QVERIFY(program->look(place::lower_plot) != lower);
     QVERIFY(program->look(place::upper_plot) != upper);
-    const QImage axis = program->look(lower_left_axis);
+    const QImage axis = program->look(place::lower_left_axis);
     tab(1); // to the first button of the tool bar
     keep_screenshot("tool_bar_by_keys");
     press({"space"});
     set_values("2", "20.5");
-    QVERIFY(program->look(lower_left_axis) != axis);
-    const QImage legend = program->look(lower_legend);
+    QVERIFY(program->look(place::lower_left_axis) != axis);
+    const QImage legend = program->look(place::lower_legend);
     tab(5); // to the last one
     press({"space"});
     rename_first_curve("Zufluss");
-    QVERIFY(program->look(lower_legend) != legend);
+    QVERIFY(program->look(place::lower_legend) != legend);
     keep_screenshot("renamed_by_keys");
     save_by_keys("Erlenbach_K1.png");
     QCOMPARE(QImage(program->path_of("Erlenbach_K1.png")).size(), QSize(681, 581));

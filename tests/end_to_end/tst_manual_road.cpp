@@ -26,8 +26,6 @@ private:
 
 namespace {
 
-constexpr QLatin1StringView manual_title("plot_korimo: Ganglinien und Kennlinien ansehen");
-
 // The key F3 by its code: by its name, xdotool presses Alt with it.
 constexpr QLatin1StringView find_next("69");
 
@@ -61,18 +59,18 @@ bool tst_manual_road::changes_by(const std::function<void()>& act)
 void tst_manual_road::bookmarks_and_thumbnails()
 {
     QVERIFY(program->bring_manual());
-    open_manual(manual_title);
+    open_manual(window_title::manual);
     keep_screenshot("manual");
     QVERIFY(changes_by([&] {
-        viewer::click_in_dialog(manual_title, first_bookmark);
+        viewer::click_in_dialog(window_title::manual, first_bookmark);
         for (int i = 0; i < 6; ++i)
             program->key("Down");
         program->key("Return");
     }));
     QVERIFY(changes_by([&] {
-        viewer::click_in_dialog(manual_title, pages_tab);
+        viewer::click_in_dialog(window_title::manual, pages_tab);
         QTest::qWait(500);
-        viewer::click_in_dialog(manual_title, third_thumbnail, 2);
+        viewer::click_in_dialog(window_title::manual, third_thumbnail, 2);
     }));
     keep_screenshot("manual_pages");
 }
@@ -80,7 +78,7 @@ void tst_manual_road::bookmarks_and_thumbnails()
 void tst_manual_road::pages_and_history()
 {
     QVERIFY(program->bring_manual());
-    open_manual(manual_title);
+    open_manual(window_title::manual);
     const QImage first = pages();
     QVERIFY(changes_by([&] { program->key("Next"); }));
     const QImage second = pages();
@@ -92,15 +90,15 @@ void tst_manual_road::pages_and_history()
     program->key("Prior");
     QCOMPARE(pages(), first);
     // The arrows at the left end of the tool bar: back, and forward again.
-    QVERIFY(changes_by([&] { viewer::click_in_dialog(manual_title, back_button); }));
+    QVERIFY(changes_by([&] { viewer::click_in_dialog(window_title::manual, back_button); }));
     QTRY_COMPARE(pages(), second);
-    QVERIFY(changes_by([&] { viewer::click_in_dialog(manual_title, forward_button); }));
+    QVERIFY(changes_by([&] { viewer::click_in_dialog(window_title::manual, forward_button); }));
     QTRY_COMPARE(pages(), first);
 }
 
 void tst_manual_road::type_zoom(const QString& text)
 {
-    viewer::click_in_dialog(manual_title, zoom_field);
+    viewer::click_in_dialog(window_title::manual, zoom_field);
     program->key("ctrl+a");
     program->type(text);
     program->key("Return");
@@ -109,9 +107,9 @@ void tst_manual_road::type_zoom(const QString& text)
 void tst_manual_road::page_box()
 {
     QVERIFY(program->bring_manual());
-    open_manual(manual_title);
+    open_manual(window_title::manual);
     QVERIFY(changes_by([&] {
-        viewer::click_in_dialog(manual_title, page_field);
+        viewer::click_in_dialog(window_title::manual, page_field);
         program->key("ctrl+a");
         program->type("5");
         program->key("Return");
@@ -121,7 +119,7 @@ void tst_manual_road::page_box()
 void tst_manual_road::zoom()
 {
     QVERIFY(program->bring_manual());
-    open_manual(manual_title);
+    open_manual(window_title::manual);
     program->key("Next");
     QTest::qWait(500);
     const QImage normal = pages();
@@ -137,7 +135,7 @@ void tst_manual_road::zoom()
 void tst_manual_road::search()
 {
     QVERIFY(program->bring_manual());
-    open_manual(manual_title);
+    open_manual(window_title::manual);
     program->key("ctrl+f");
     QVERIFY(changes_by([&] {
         program->type("Pegel");
@@ -162,18 +160,18 @@ void tst_manual_road::search()
 void tst_manual_road::closed_by_keys()
 {
     QVERIFY(program->bring_manual());
-    open_manual(manual_title);
+    open_manual(window_title::manual);
     program->key("alt+F4");
-    QVERIFY(viewer::sees_no_window(manual_title));
-    open_manual(manual_title);
+    QVERIFY(viewer::sees_no_window(window_title::manual));
+    open_manual(window_title::manual);
     program->key("Escape");
-    QVERIFY(viewer::sees_no_window(manual_title));
+    QVERIFY(viewer::sees_no_window(window_title::manual));
 }
 
 void tst_manual_road::main_window_closed_first()
 {
     QVERIFY(program->bring_manual());
-    open_manual(manual_title);
+    open_manual(window_title::manual);
     program->close_main_window();
     QVERIFY(viewer::sees_no_window("plot_korimo"));
     QCOMPARE(program->exit_code(), 0);

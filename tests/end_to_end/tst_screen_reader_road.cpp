@@ -31,8 +31,6 @@ Q_DECLARE_METATYPE(spoken_role)
 
 namespace {
 
-constexpr const char* manual_title = "plot_korimo: Ganglinien und Kennlinien ansehen";
-
 QProcessEnvironment for_screen_readers()
 {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
@@ -115,8 +113,8 @@ void tst_screen_reader_road::focus_in_the_plot()
 void tst_screen_reader_road::buttons_of_the_manual()
 {
     QVERIFY(program->bring_manual());
-    open_manual(manual_title);
-    const QList<spoken_part> parts = bus->parts_of(manual_title);
+    open_manual(window_title::manual);
+    const QList<spoken_part> parts = bus->parts_of(window_title::manual);
     for (const char* name : {"Back to previous view", "Forward to next view", "Previous Page",
                              "Next Page", "Zoom Out", "Zoom In", "Find Previous", "Find Next"}) {
         const auto found = std::ranges::find(parts, QString(name), &spoken_part::name);

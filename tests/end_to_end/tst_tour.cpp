@@ -50,10 +50,6 @@ private:
 namespace {
 
 constexpr QLatin1StringView main_title("plot_korimo");
-constexpr QLatin1StringView manual_title("plot_korimo: Ganglinien und Kennlinien ansehen");
-constexpr QLatin1StringView choose_title("Auswahl der Datei zum Plotten");
-constexpr QLatin1StringView range_title("Achsenskalierung");
-constexpr QLatin1StringView names_title("Zeitreihen umbenennen");
 
 // Both plots with what stands around them.
 constexpr QRect both_plots(25, 45, 691, 600);
@@ -147,9 +143,9 @@ void tst_tour::choosing_files()
     for (const QString& name : names)
         QVERIFY(program->bring(name) && make_old(program->path_of(name)));
     program->choose_file_entry(0);
-    show_dialog("03_daten_auswaehlen", choose_title);
+    show_dialog("03_daten_auswaehlen", window_title::files);
     program->key("Escape");
-    QVERIFY(viewer::sees_no_window(choose_title));
+    QVERIFY(viewer::sees_no_window(window_title::files));
     for (const QString& name : names)
         QVERIFY(QFile::remove(program->path_of(name)));
     add_by_typing(names);
@@ -227,16 +223,16 @@ void tst_tour::axes()
     QFETCH(QString, plots);
     plot("Erlenbach_B1.wel");
     program->click_in_window(plan->tool_button(command).center());
-    QVERIFY(viewer::sees_window(range_title));
-    viewer::click_in_dialog(range_title, QPoint(100, 101)); // the box of the minimum
+    QVERIFY(viewer::sees_window(window_title::range));
+    viewer::click_in_dialog(window_title::range, QPoint(100, 101)); // the box of the minimum
     program->key("ctrl+a");
     program->type(from);
     program->key("Tab");
     program->key("ctrl+a");
     program->type(to);
-    show_dialog(dialog, range_title);
+    show_dialog(dialog, window_title::range);
     program->key("Return");
-    QVERIFY(viewer::sees_no_window(range_title));
+    QVERIFY(viewer::sees_no_window(window_title::range));
     show_plots(plots);
 }
 
@@ -244,12 +240,12 @@ void tst_tour::names()
 {
     plot("Erlenbach_B1.wel");
     program->click_in_window(plan->tool_button("Zeitreihen umbenennen").center());
-    QVERIFY(viewer::sees_window(names_title));
-    viewer::click_in_dialog(names_title, QPoint(190, 50), 2); // the first new name
+    QVERIFY(viewer::sees_window(window_title::names));
+    viewer::click_in_dialog(window_title::names, QPoint(190, 50), 2); // the first new name
     program->type("Zufluss");
-    show_dialog("26_umbenennen", names_title);
-    viewer::click_in_dialog(names_title, QPoint(270, 270)); // "OK"
-    QVERIFY(viewer::sees_no_window(names_title));
+    show_dialog("26_umbenennen", window_title::names);
+    viewer::click_in_dialog(window_title::names, QPoint(270, 270)); // "OK"
+    QVERIFY(viewer::sees_no_window(window_title::names));
     show_plots("27_umbenannt");
 }
 
@@ -328,11 +324,11 @@ void tst_tour::information()
 void tst_tour::manual()
 {
     QVERIFY(program->bring_manual());
-    open_manual(manual_title);
-    show_dialog("38_handbuch", manual_title);
-    viewer::click_in_dialog(manual_title, QPoint(13, 160)); // "Pages"
-    QTest::qWait(2000);                                     // until the small pages have been drawn
-    show_dialog("39_handbuch_seiten", manual_title);
+    open_manual(window_title::manual);
+    show_dialog("38_handbuch", window_title::manual);
+    viewer::click_in_dialog(window_title::manual, QPoint(13, 160)); // "Pages"
+    QTest::qWait(2000); // until the small pages have been drawn
+    show_dialog("39_handbuch_seiten", window_title::manual);
 }
 
 void tst_tour::close_command()

@@ -88,6 +88,8 @@ namespace place {
 
 inline constexpr QRect upper_plot{30, 50, 681, 200};
 inline constexpr QRect lower_plot{30, 260, 681, 381};
+inline constexpr QRect lower_left_axis{30, 270, 85, 300}; // what stands left of the canvas
+inline constexpr QRect lower_legend{600, 260, 110, 60};
 inline constexpr QRect names{725, 51, 191, 591};
 inline constexpr QRect files{80, 660, 541, 121};
 inline constexpr QRect plot_button{630, 710, 81, 23};
@@ -99,3 +101,13 @@ inline constexpr QRect forward_button{770, 650, 21, 21};
 inline constexpr QRect to_end_button{790, 650, 21, 21};
 
 } // namespace place
+
+// What stands in the frames of its dialogs.
+namespace window_title {
+
+inline constexpr QLatin1StringView files("Auswahl der Datei zum Plotten");
+inline constexpr QLatin1StringView range("Achsenskalierung");
+inline constexpr QLatin1StringView names("Zeitreihen umbenennen");
+inline constexpr QLatin1StringView manual("plot_korimo: Ganglinien und Kennlinien ansehen");
+
+} // namespace window_title

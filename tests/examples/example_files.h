@@ -1,7 +1,8 @@
 #pragma once
 
+#include "tests/support/read_file.h"
+
 #include <QDir>
-#include <QFile>
 #include <QProcess>
 #include <QStringList>
 
@@ -37,12 +38,6 @@ inline run_result run_program(const QStringList& arguments)
     return {ended ? program.exitCode() : -1, QString::fromUtf8(program.readAllStandardError())};
 }
 
-inline QByteArray bytes_of(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
 inline QString example(const QString& name)
 {
     return QDir(QStringLiteral(EXAMPLES_DIR)).filePath(name);
@@ -55,7 +50,7 @@ inline QString wel_path(const QString& element)
 
 inline QStringList lines_of(const QString& path)
 {
-    QStringList lines = QString::fromUtf8(bytes_of(path)).split('\n');
+    QStringList lines = read_text(path).split('\n');
     lines.removeLast(); // what follows the last line end
     return lines;
 }

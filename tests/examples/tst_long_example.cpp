@@ -78,7 +78,7 @@ void tst_long_example::is_the_same_again()
 {
     write("5000", "B", "first.wel");
     write("5000", "B", "second.wel");
-    QVERIFY(bytes_of(path("first.wel")) == bytes_of(path("second.wel")));
+    QVERIFY(read_file(path("first.wel")) == read_file(path("second.wel")));
 }
 
 void tst_long_example::shorter_file_begins_the_longer_one()
@@ -87,8 +87,8 @@ void tst_long_example::shorter_file_begins_the_longer_one()
     write("5000", "KN", "short.wel");
     write("9000", "KN", "long.wel");
     QCOMPARE(lines_of(path("one.wel")).size(), 4);
-    QVERIFY(bytes_of(path("short.wel")).startsWith(bytes_of(path("one.wel"))));
-    QVERIFY(bytes_of(path("long.wel")).startsWith(bytes_of(path("short.wel"))));
+    QVERIFY(read_file(path("short.wel")).startsWith(read_file(path("one.wel"))));
+    QVERIFY(read_file(path("long.wel")).startsWith(read_file(path("short.wel"))));
 }
 
 // A year: rain comes back after dry days, and more rain falls than in the first storm.

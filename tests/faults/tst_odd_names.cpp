@@ -1,6 +1,7 @@
 #include "plot/korimo_plot.h"
 #include "tests/support/modal_boxes.h"
 #include "tests/support/named_curves.h"
+#include "tests/support/read_file.h"
 #include "tests/support/write_file.h"
 
 #include <qwt_plot.h>
@@ -9,15 +10,11 @@
 
 #include <QAction>
 #include <QDir>
-#include <QDragEnterEvent>
-#include <QDropEvent>
 #include <QFont>
 #include <QImage>
 #include <QListWidget>
-#include <QMimeData>
 #include <QPushButton>
 #include <QTest>
-#include <QUrl>
 
 #include <fcntl.h>
 #include <unistd.h>
@@ -25,16 +22,6 @@
 namespace {
 
 using namespace Qt::StringLiterals;
-
-void drop(MainWindow& window, const QUrl& url)
-{
-    QMimeData data;
-    data.setUrls({url});
-    QDragEnterEvent enter(QPoint(9, 9), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-    QCoreApplication::sendEvent(&window, &enter);
-    QDropEvent event(QPointF(9, 9), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-    QCoreApplication::sendEvent(&window, &event);
-}
 
 // The text of the box that saving shows, if it is the only one and takes nothing for mark-up.
 QString save(const window_driver& driver)
@@ -116,7 +103,7 @@ void tst_odd_names::dropped_drawn_and_saved()
     window_driver driver;
     const QString path = driver.folder.path() + "/" + name + ".wel";
     write_file(path, node_file(9));
-    drop(driver.window, QUrl::fromLocalFile(path));
+    driver.drop({QUrl::fromLocalFile(path)});
     QCOMPARE(driver.files(), QStringList{path});
     driver.select(0);
     {
@@ -147,7 +134,7 @@ void tst_odd_names::bytes_that_are_no_text()
     window_driver driver;
     const QByteArray folder = driver.folder.path().toUtf8() + '/';
     write_raw(folder + "a\xFF_K.wel", node_file(9));
-    drop(driver.window, QUrl::fromEncoded("file://" + folder + "a%FF_K.wel"));
+    driver.drop({QUrl::fromEncoded("file://" + folder + "a%FF_K.wel")});
     driver.list->addItem(QFile::decodeName(folder + "a\xFF_K.wel"));
     QCOMPARE(driver.list->count(), 2);
     for (int row = 0; row < driver.list->count(); ++row) {
@@ -155,7 +142,7 @@ void tst_odd_names::bytes_that_are_no_text()
         const modal_boxes boxes;
         driver.press(driver.button);
         QCOMPARE(boxes.shown().size(), 2);
-        QCOMPARE(boxes.shown()[0].text, "Could not open or read file");
+        QVERIFY(is_read_error(boxes.shown()[0]));
         save(driver);
     }
     driver.open("good_K.wel", node_file(9));
@@ -171,9 +158,7 @@ void tst_odd_names::curve_named_like_its_file()
     driver.pick(0);
     driver.press(driver.plot_name);
     save(driver);
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    QCOMPARE(file.readAll(), text);
+    QCOMPARE(read_file(path), text);
 }
 
 // A picture that mark-up names would be read, be it from a device that never ends.

@@ -1,4 +1,5 @@
 #include "plot/korimo_plot.h"
+#include "tests/support/document_dump.h"
 #include "tests/support/limits.h"
 #include "tests/support/modal_boxes.h"
 #include "tests/support/named_curves.h"
@@ -98,16 +99,6 @@ const shown_box& last_box(const modal_boxes& boxes)
     return boxes.shown().last();
 }
 
-bool tells_unreadable_file(const shown_box& box)
-{
-    return box.title == "Error" && box.text == "Could not open or read file";
-}
-
-bool has_no_values(const korimo_plot& document)
-{
-    return std::ranges::all_of(document.series, &QList<double>::isEmpty);
-}
-
 // The window still does what it is for.
 bool draws_a_good_file(window_driver& driver)
 {
@@ -153,7 +144,7 @@ void tst_unreadable_files::opened()
     driver.press(driver.button);
     // A file of hydrographs is drawn all the same, and there is nothing to draw.
     QCOMPARE(boxes.shown().size(), name.endsWith("wel") ? 2 : 1);
-    QVERIFY(tells_unreadable_file(boxes.shown()[0]));
+    QVERIFY(is_read_error(boxes.shown()[0]));
     QCOMPARE(driver.names->count(), 0);
     QCOMPARE(driver.window.shown_document()->plot_mode, -1);
     QVERIFY(has_no_values(*driver.window.shown_document()));
@@ -180,7 +171,7 @@ void tst_unreadable_files::read_again()
     const modal_boxes boxes;
     driver.press(driver.plot_name);
     QCOMPARE(boxes.shown().size(), name.endsWith("dkl") ? 1 : 0);
-    QVERIFY(boxes.shown().isEmpty() || tells_unreadable_file(last_box(boxes)));
+    QVERIFY(boxes.shown().isEmpty() || is_read_error(last_box(boxes)));
     QCOMPARE(driver.names->count(), 4);
     QVERIFY(has_no_values(*driver.window.shown_document()));
     QVERIFY(draws_a_good_file(driver));
@@ -206,7 +197,7 @@ void tst_unreadable_files::names_no_file_has()
     const modal_boxes boxes;
     driver.press(driver.button);
     QVERIFY(!boxes.shown().isEmpty());
-    QVERIFY(tells_unreadable_file(boxes.shown()[0]));
+    QVERIFY(is_read_error(boxes.shown()[0]));
     QVERIFY(has_no_values(*driver.window.shown_document()));
 }
 
@@ -223,7 +214,7 @@ void tst_unreadable_files::folder_that_is_forbidden()
         const modal_boxes boxes;
         driver.press(driver.button);
         QCOMPARE(boxes.shown().size(), 2);
-        QVERIFY(tells_unreadable_file(boxes.shown()[0]));
+        QVERIFY(is_read_error(boxes.shown()[0]));
     }
     QVERIFY(QFile::setPermissions(folder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
     driver.press(driver.button); // "Clear"

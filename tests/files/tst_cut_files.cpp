@@ -4,11 +4,11 @@
 #include "tests/support/log_capture.h"
 #include "tests/support/modal_boxes.h"
 #include "tests/support/plot_pair.h"
+#include "tests/support/read_file.h"
 #include "tests/support/write_file.h"
 
 #include <qwt_plot_renderer.h>
 
-#include <QFileInfo>
 #include <QImage>
 #include <QPainter>
 #include <QTemporaryDir>
@@ -21,8 +21,7 @@ using curve_slot = void (korimo_plot::*)(QString path, QString item);
 
 QByteArray bytes_of_example(const QString& name)
 {
-    QFile file(QStringLiteral(EXAMPLES_DIR "/") + name);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    return read_file(QStringLiteral(EXAMPLES_DIR "/") + name);
 }
 
 // As many whole lines as fit into `size` bytes.

@@ -3,6 +3,7 @@
 #include "tests/support/named_curves.h"
 #include "tests/support/pdf_file.h"
 #include "tests/support/rename_driver.h"
+#include "tests/support/working_folder.h"
 #include "tests/support/write_file.h"
 #include "ui/rename_dialog.h"
 
@@ -11,8 +12,6 @@
 #include <QAction>
 #include <QApplication>
 #include <QComboBox>
-#include <QDir>
-#include <QDragEnterEvent>
 #include <QElapsedTimer>
 #include <QLineEdit>
 #include <QListWidget>
@@ -24,11 +23,10 @@
 #include <QPushButton>
 #include <QTest>
 #include <QTimer>
-#include <QUrl>
 #include <QWindow>
 
 #include <functional>
-#include <memory>
+#include <optional>
 
 namespace {
 
@@ -129,8 +127,7 @@ void hover(window_driver& driver)
 {
     static QMimeData data;
     data.setUrls({QUrl("file:///a/x.wel")});
-    QDragEnterEvent event(QPoint(9, 9), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(&driver.window, &event);
+    driver.drag(data);
 }
 
 // The button stays down.
@@ -227,20 +224,18 @@ private slots:
     void in_every_state();
 
 private:
-    QString start_folder = QDir::currentPath();
-    std::unique_ptr<QTemporaryDir> folder;
+    std::optional<working_folder> folder;
 };
 
 void tst_closing::init()
 {
-    folder = std::make_unique<QTemporaryDir>();
-    QVERIFY(QDir::setCurrent(folder->path()));
+    folder.emplace();
     write_file("01_Handbuch_KORIMO9.pdf", numbered_pages(20).bytes());
 }
 
 void tst_closing::cleanup()
 {
-    QVERIFY(QDir::setCurrent(start_folder));
+    folder.reset();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     const auto widgets = QApplication::topLevelWidgets();
     for (QWidget* const left : widgets)

@@ -8,8 +8,6 @@
 #include <QAbstractItemView>
 #include <QComboBox>
 #include <QDialogButtonBox>
-#include <QDragEnterEvent>
-#include <QDropEvent>
 #include <QElapsedTimer>
 #include <QFileDialog>
 #include <QListView>
@@ -51,32 +49,6 @@ QStringList listed_files(const QFileDialog& dialog)
     return names;
 }
 
-bool is_accepted_at_entry(MainWindow& window, const QMimeData& data, Qt::DropActions offered)
-{
-    QDragEnterEvent event(QPoint(10, 10), offered, &data, Qt::LeftButton, Qt::NoModifier);
-    event.ignore();
-    QApplication::sendEvent(&window, &event);
-    return event.isAccepted();
-}
-
-// Enters the window and drops there; answers what the source is told was done.
-Qt::DropAction drop(MainWindow& window, const QMimeData& data,
-                    Qt::DropActions offered = Qt::CopyAction)
-{
-    is_accepted_at_entry(window, data, offered);
-    QDropEvent event(QPointF(10, 10), offered, &data, Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(&window, &event);
-    return event.dropAction();
-}
-
-Qt::DropAction drop(MainWindow& window, const QList<QUrl>& urls,
-                    Qt::DropActions offered = Qt::CopyAction)
-{
-    QMimeData data;
-    data.setUrls(urls);
-    return drop(window, data, offered);
-}
-
 } // namespace
 
 class tst_file_list : public QObject
@@ -104,14 +76,14 @@ private slots:
 
 void tst_file_list::drag_enter()
 {
-    MainWindow window;
+    window_driver driver;
     QMimeData text;
     text.setText("file:///a/b.wel");
-    QVERIFY(!is_accepted_at_entry(window, text, Qt::CopyAction));
+    QVERIFY(!driver.drag(text));
     QMimeData urls;
     urls.setUrls({QUrl("https://example.org/picture.png")});
-    QVERIFY(is_accepted_at_entry(window, urls, Qt::CopyAction));
-    QVERIFY(is_accepted_at_entry(window, urls, Qt::MoveAction | Qt::CopyAction));
+    QVERIFY(driver.drag(urls));
+    QVERIFY(driver.drag(urls, Qt::MoveAction | Qt::CopyAction));
 }
 
 void tst_file_list::drops_data()
@@ -142,7 +114,7 @@ void tst_file_list::drops()
     QList<QUrl> dropped;
     for (const QString& url : urls)
         dropped.append(QUrl(url));
-    drop(driver.window, dropped);
+    driver.drop(dropped);
     QCOMPARE(driver.files(), rows);
     QVERIFY(driver.list->selectedItems().isEmpty());
 }
@@ -151,8 +123,8 @@ void tst_file_list::dropped_twice()
 {
     window_driver driver;
     const QList<QUrl> urls{QUrl("file:///a/x.wel"), QUrl("file:///a/x.wel")};
-    drop(driver.window, urls);
-    drop(driver.window, urls);
+    driver.drop(urls);
+    driver.drop(urls);
     QCOMPARE(driver.files(), QStringList{"/a/x.wel"});
 }
 
@@ -165,8 +137,8 @@ void tst_file_list::ten_thousand_files()
         urls.append(QUrl(QString("file:///a/%1.wel").arg(i)));
     QElapsedTimer clock;
     clock.start();
-    drop(driver.window, urls);
-    drop(driver.window, urls);
+    driver.drop(urls);
+    driver.drop(urls);
     QVERIFY2(clock.elapsed() < 20'000, QByteArray::number(clock.elapsed()));
     QCOMPARE(driver.list->count(), 10'000);
     QCOMPARE(driver.list->item(9'999)->text(), "/a/9999.wel");
@@ -176,8 +148,8 @@ void tst_file_list::drop_is_a_copy()
 {
     window_driver driver;
     const QList<QUrl> urls{QUrl("file:///a/x.wel")};
-    QCOMPARE(drop(driver.window, urls, Qt::MoveAction | Qt::CopyAction), Qt::CopyAction);
-    QCOMPARE(drop(driver.window, urls, Qt::MoveAction), Qt::IgnoreAction);
+    QCOMPARE(driver.drop(urls, Qt::MoveAction | Qt::CopyAction), Qt::CopyAction);
+    QCOMPARE(driver.drop(urls, Qt::MoveAction), Qt::IgnoreAction);
     QCOMPARE(driver.list->count(), 1);
 }
 
@@ -186,7 +158,7 @@ void tst_file_list::drop_without_urls()
     window_driver driver;
     QMimeData data;
     data.setText("/a/x.wel");
-    drop(driver.window, data);
+    driver.drop(data);
     QCOMPARE(driver.list->count(), 0);
 }
 

@@ -1,9 +1,9 @@
 #include "tests/support/modal_answer.h"
 #include "tests/support/modal_boxes.h"
+#include "tests/support/read_file.h"
 #include "tests/support/window_driver.h"
 
 #include <QAction>
-#include <QFile>
 #include <QPushButton>
 #include <QTest>
 #include <QTextEdit>
@@ -26,12 +26,6 @@ QList<shown_box> trigger(const window_driver& driver, const char* action)
     const modal_boxes boxes;
     driver.window.findChild<QAction*>(action)->trigger();
     return boxes.shown();
-}
-
-QString text_of(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
 }
 
 constexpr const char* licence_path = ":/licenses/look_and_feel/LICENSE.LGPLv3";
@@ -64,7 +58,7 @@ void tst_information::information()
     const QList<shown_box> boxes = trigger(driver, "actionOrvan_Information");
     QCOMPARE(boxes.size(), 1);
     QCOMPARE(boxes[0].title, "Orvan Wasser GmbH");
-    QCOMPARE(boxes[0].text, text_of(":/licenses/look_and_feel/Orvan_Info.txt"));
+    QCOMPARE(boxes[0].text, read_text(":/licenses/look_and_feel/Orvan_Info.txt"));
     QCOMPARE(boxes[0].buttons, QMessageBox::Ok);
     QCOMPARE(boxes[0].icon, QMessageBox::Information);
     QVERIFY(boxes[0].was_modal);
@@ -72,7 +66,7 @@ void tst_information::information()
 
 void tst_information::information_names_what_it_should()
 {
-    const QString text = text_of(":/licenses/look_and_feel/Orvan_Info.txt");
+    const QString text = read_text(":/licenses/look_and_feel/Orvan_Info.txt");
     for (const char* words : {"Orvan Wasser GmbH", "plot_korimo, Version " PROJECT_VERSION "\n",
                               "Fragen, Wünsche", "plot_korimo@orvan-wasser.example"})
         QVERIFY2(text.contains(words), words);
@@ -95,7 +89,7 @@ void tst_information::licence()
     QCOMPARE(boxes[0].title, "LICENSE.LGPLv3");
     QCOMPARE(boxes[0].text, "Parts of Qt are licensed under LGPLv3. \n"
                             "The button Show Details will display the LGPLv3 license text");
-    QCOMPARE(boxes[0].detailed_text, text_of(licence_path));
+    QCOMPARE(boxes[0].detailed_text, read_text(licence_path));
     QVERIFY(boxes[0].detailed_text.startsWith("                   GNU LESSER GENERAL PUBLIC"));
     QCOMPARE(boxes[0].informative_text, "");
     QCOMPARE(boxes[0].icon, QMessageBox::NoIcon);
@@ -134,7 +128,7 @@ void tst_information::licence_unfolded()
     driver.window.findChild<QAction*>("actionLGPLv3")->trigger();
     QCOMPARE(user.count(), 1);
     QVERIFY(unfolded);
-    QCOMPARE(shown_text, text_of(licence_path));
+    QCOMPARE(shown_text, read_text(licence_path));
 }
 
 // The shared box keeps what another command gave it.

@@ -1,14 +1,16 @@
 #include "docu/docudialog.h"
 #include "tests/support/pdf_file.h"
 #include "tests/support/window_driver.h"
+#include "tests/support/working_folder.h"
 #include "tests/support/write_file.h"
 
 #include <QAction>
-#include <QDir>
 #include <QPdfPageNavigator>
 #include <QPdfView>
 #include <QPointer>
 #include <QTest>
+
+#include <optional>
 
 namespace {
 
@@ -38,19 +40,17 @@ private slots:
     void window_closed_first();
 
 private:
-    QString start_folder = QDir::currentPath();
-    std::unique_ptr<QTemporaryDir> folder;
+    std::optional<working_folder> folder;
 };
 
 void tst_manual_command::init()
 {
-    folder = std::make_unique<QTemporaryDir>();
-    QVERIFY(QDir::setCurrent(folder->path()));
+    folder.emplace();
 }
 
 void tst_manual_command::cleanup()
 {
-    QVERIFY(QDir::setCurrent(start_folder));
+    folder.reset();
 }
 
 void tst_manual_command::opens_the_manual_of_the_working_folder()

@@ -1,4 +1,5 @@
 #include "docu/docudialog.h"
+#include "tests/support/read_file.h"
 #include "ui/axis_dialog.h"
 #include "ui/mainwindow.h"
 #include "ui/rename_dialog.h"
@@ -6,7 +7,6 @@
 #include <QAbstractButton>
 #include <QAction>
 #include <QDirIterator>
-#include <QFile>
 #include <QMenu>
 #include <QMenuBar>
 #include <QPdfBookmarkModel>
@@ -18,19 +18,13 @@
 
 namespace {
 
-QString text_of(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
-}
-
 // All files of these kinds in a folder of the project, one after the other.
 QString all_of(const QString& folder, const QStringList& kinds)
 {
     QString text;
     QDirIterator files(PROJECT "/" + folder, kinds, QDir::Files, QDirIterator::Subdirectories);
     while (files.hasNext())
-        text += text_of(files.next());
+        text += read_text(files.next());
     return text;
 }
 
@@ -120,8 +114,8 @@ QStringList headings_of_the_text()
     static const QRegularExpression included("include::(.*)\\[\\]");
     static const QRegularExpression heading("^===? (.*)$", QRegularExpression::MultilineOption);
     QStringList headings;
-    for (const auto& chapter : included.globalMatch(text_of(PROJECT "/manual/handbuch.adoc"))) {
-        const QString text = text_of(PROJECT "/manual/" + chapter.captured(1));
+    for (const auto& chapter : included.globalMatch(read_text(PROJECT "/manual/handbuch.adoc"))) {
+        const QString text = read_text(PROJECT "/manual/" + chapter.captured(1));
         for (const auto& match : heading.globalMatch(text))
             headings.append(match.captured(1));
     }
@@ -232,9 +226,7 @@ void tst_manual::text_is_found()
 
 void tst_manual::fonts_are_embedded()
 {
-    QFile file(MANUAL);
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    const QByteArray bytes = file.readAll();
+    const QByteArray bytes = read_file(MANUAL);
     const qsizetype descriptors = bytes.count("/Type /FontDescriptor");
     QVERIFY(descriptors > 0);
     QCOMPARE(bytes.count("/FontFile2"), descriptors);

@@ -1,24 +1,19 @@
 #include "app/style_sheet.h"
 #include "app/theme_probe.h"
+#include "tests/support/read_file.h"
+#include "tests/support/working_folder.h"
+#include "tests/support/write_file.h"
 
 #include <QApplication>
-#include <QDir>
 #include <QFile>
 #include <QIcon>
-#include <QTemporaryDir>
 #include <QTest>
 
-#include <memory>
+#include <optional>
 
 namespace {
 
 constexpr char sheet_path[] = ":styles/look_and_feel/global_style.qss";
-
-QByteArray bytes_of(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
 
 QString applied_sheet(const QString& path)
 {
@@ -31,10 +26,9 @@ QString applied_sheet(const QString& path)
 // Where there is no registry, the native settings of that name are a file in the working directory.
 void write_setting(const QByteArray& line)
 {
-    QFile file(
-        "HKEY_CURRENT_USER\\Software\\Microsoft\\Windows\\CurrentVersion\\Themes\\Personalize");
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write("[General]\n" + line + "\n");
+    write_file(
+        "HKEY_CURRENT_USER\\Software\\Microsoft\\Windows\\CurrentVersion\\Themes\\Personalize",
+        "[General]\n" + line + "\n");
 }
 #endif
 
@@ -56,19 +50,17 @@ private slots:
     void missing_sheet();
 
 private:
-    QString start_folder = QDir::currentPath();
-    std::unique_ptr<QTemporaryDir> folder;
+    std::optional<working_folder> folder;
 };
 
 void tst_startup::init()
 {
-    folder = std::make_unique<QTemporaryDir>();
-    QVERIFY(QDir::setCurrent(folder->path()));
+    folder.emplace();
 }
 
 void tst_startup::cleanup()
 {
-    QVERIFY(QDir::setCurrent(start_folder));
+    folder.reset();
 }
 
 void tst_startup::resources_data()
@@ -91,7 +83,7 @@ void tst_startup::resources()
 {
     QFETCH(QString, path);
     QFETCH(QByteArray, text);
-    QVERIFY(bytes_of(path).contains(text));
+    QVERIFY(read_file(path).contains(text));
     if (path.endsWith(".ico"))
         QVERIFY(!QIcon(path).pixmap(16, 16).isNull());
 }
@@ -102,14 +94,14 @@ void tst_startup::style_sheet_bytes()
     for (const char* widget : {"QDialog", "QPlainTextEdit", "QTextEdit", "QFileDialog",
                                "QMessageBox", "QTableWidget", "QTextBrowser"})
         expected += QByteArray("\n\n") + widget + " {\n    background-color: #f2f0f0;\n}";
-    QCOMPARE(bytes_of(sheet_path), expected);
+    QCOMPARE(read_file(sheet_path), expected);
     QCOMPARE(expected.size(), 381);
 }
 
 void tst_startup::light_without_the_setting()
 {
     QVERIFY(!desktop_is_dark());
-    QCOMPARE(applied_sheet(sheet_path), QString::fromLatin1(bytes_of(sheet_path)));
+    QCOMPARE(applied_sheet(sheet_path), QString::fromLatin1(read_file(sheet_path)));
 }
 
 void tst_startup::theme_setting_data()

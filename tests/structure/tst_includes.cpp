@@ -1,3 +1,5 @@
+#include "tests/support/read_file.h"
+
 #include <QDir>
 #include <QDirIterator>
 #include <QFile>
@@ -33,8 +35,7 @@ using entries = QStringList; // rooms and headers
 
 QString text_of(const QString& path)
 {
-    QFile file(QStringLiteral(PROJECT "/") + path);
-    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+    return read_text(QStringLiteral(PROJECT "/") + path);
 }
 
 QStringList matches_of(const QString& text, const QString& pattern)

@@ -5,6 +5,7 @@
 
 #include <QLocale>
 
+#include <algorithm>
 #include <cmath>
 
 namespace {
@@ -39,6 +40,11 @@ QString dump(int plot_mode, const QString& title, const QStringList& names,
             text += QStringLiteral("series %1: %2\n").arg(i).arg(exact(series[i]));
     }
     return text;
+}
+
+bool has_no_values(const korimo_plot& document)
+{
+    return std::ranges::all_of(document.series, &QList<double>::isEmpty);
 }
 
 QString read_and_dump(korimo_plot& document, const QString& path)

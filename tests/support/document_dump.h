@@ -27,6 +27,9 @@ QString dump(const type& read)
     return dump(read.plot_mode, read.wel_title, read.kennlinien_list, read.series);
 }
 
+/// Whether none of the series of a document holds a value.
+bool has_no_values(const korimo_plot& document);
+
 /// Lets `document` read the file and answers its dump, then the debug lines that reading logged,
 /// each with "log " in front.
 QString read_and_dump(korimo_plot& document, const QString& path);

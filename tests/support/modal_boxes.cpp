@@ -4,11 +4,24 @@
 #include <QIcon>
 #include <QTest>
 
+namespace {
+
+bool is_error(const shown_box& box, const QString& text)
+{
+    return box.title == "Error" && box.text == text && box.detailed_text.isEmpty() &&
+           box.buttons == QMessageBox::Ok && box.icon == QMessageBox::NoIcon && box.was_modal;
+}
+
+} // namespace
+
 bool is_selection_error(const shown_box& box)
 {
-    return box.title == "Error" && box.text == "Pleae select one file" &&
-           box.detailed_text.isEmpty() && box.buttons == QMessageBox::Ok &&
-           box.icon == QMessageBox::NoIcon && box.has_window_icon && box.was_modal;
+    return is_error(box, "Pleae select one file") && box.has_window_icon;
+}
+
+bool is_read_error(const shown_box& box)
+{
+    return is_error(box, "Could not open or read file");
 }
 
 QMessageBox* shared_box()

@@ -24,6 +24,9 @@ struct shown_box
 /// Whether a box is the one that asks for a selection, with "Ok" as its only button.
 bool is_selection_error(const shown_box& box);
 
+/// Whether a box is the one that tells of a file that cannot be read, with "Ok" as its only button.
+bool is_read_error(const shown_box& box);
+
 /// The box that the commands of a main window share, as long as no document has one of its own.
 QMessageBox* shared_box();
 

@@ -13,13 +13,10 @@
 #include <QApplication>
 #include <QDir>
 #include <QDoubleSpinBox>
-#include <QDragEnterEvent>
-#include <QDropEvent>
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMessageBox>
-#include <QMimeData>
 #include <QPushButton>
 #include <QTableWidget>
 #include <QTest>
@@ -150,12 +147,7 @@ void random_user::drop_file()
     const QFileInfoList files = QDir(driver.folder.path()).entryInfoList(QDir::Files);
     if (!may_add())
         return;
-    QMimeData data;
-    data.setUrls({QUrl::fromLocalFile(any_of(files, random).filePath())});
-    QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-    QCoreApplication::sendEvent(&driver.window, &enter);
-    QDropEvent drop(QPointF(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-    QCoreApplication::sendEvent(&driver.window, &drop);
+    driver.drop({QUrl::fromLocalFile(any_of(files, random).filePath())});
 }
 
 void random_user::choose_files()

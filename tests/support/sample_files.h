@@ -1,5 +1,7 @@
 #pragma once
 
+#include "tests/support/read_file.h"
+
 #include <QDir>
 #include <QTest>
 
@@ -19,8 +21,5 @@ inline void add_sample_rows(const QString& folder)
 /// in front.
 inline QString expected_of(const QString& path)
 {
-    QFile file(path + ".expected");
-    if (!file.open(QIODevice::ReadOnly))
-        return "no expected result";
-    return QString::fromUtf8(file.readAll());
+    return read_text(path + ".expected");
 }

@@ -2,13 +2,19 @@
 
 #include "tests/support/write_file.h"
 
+#include <QCoreApplication>
+#include <QDragEnterEvent>
+#include <QDropEvent>
 #include <QListWidget>
+#include <QMimeData>
 #include <QPushButton>
 #include <QTest>
 
 #include <qwt_plot.h>
 
 namespace {
+
+constexpr QPoint drop_place(10, 10);
 
 void click_row(QListWidget& list, int row)
 {
@@ -59,6 +65,29 @@ QString window_driver::open(const QString& name, const QByteArray& text)
 void window_driver::press(QPushButton* which) const
 {
     QTest::mouseClick(which, Qt::LeftButton);
+}
+
+bool window_driver::drag(const QMimeData& data, Qt::DropActions offered)
+{
+    QDragEnterEvent event(drop_place, offered, &data, Qt::LeftButton, Qt::NoModifier);
+    event.ignore();
+    QCoreApplication::sendEvent(&window, &event);
+    return event.isAccepted();
+}
+
+Qt::DropAction window_driver::drop(const QMimeData& data, Qt::DropActions offered)
+{
+    drag(data, offered);
+    QDropEvent event(drop_place, offered, &data, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(&window, &event);
+    return event.dropAction();
+}
+
+Qt::DropAction window_driver::drop(const QList<QUrl>& urls, Qt::DropActions offered)
+{
+    QMimeData data;
+    data.setUrls(urls);
+    return drop(data, offered);
 }
 
 QStringList window_driver::files() const

@@ -3,8 +3,10 @@
 #include "ui/mainwindow.h"
 
 #include <QTemporaryDir>
+#include <QUrl>
 
 class QListWidget;
+class QMimeData;
 class QPushButton;
 class QwtPlot;
 
@@ -22,6 +24,11 @@ struct window_driver
     void press(QPushButton* which) const;
     /// Adds a file, selects it, and presses "Plot" or "Read".
     QString open(const QString& name, const QByteArray& text);
+    /// Drags into the window, and neither leaves nor drops; answers whether a drop would be taken.
+    bool drag(const QMimeData& data, Qt::DropActions offered = Qt::CopyAction);
+    /// Drags into the window and drops there; answers what the source is told was done.
+    Qt::DropAction drop(const QMimeData& data, Qt::DropActions offered = Qt::CopyAction);
+    Qt::DropAction drop(const QList<QUrl>& urls, Qt::DropActions offered = Qt::CopyAction);
     QStringList files() const;
 
     QTemporaryDir folder;

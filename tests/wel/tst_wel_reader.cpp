@@ -2,6 +2,7 @@
 #include "tests/support/modal_boxes.h"
 #include "tests/support/plot_pair.h"
 #include "tests/support/sample_files.h"
+#include "tests/support/working_folder.h"
 
 #include "plot/reading/element_kinds.h"
 
@@ -84,13 +85,10 @@ void tst_wel_reader::file_name_ends_the_path()
 
 void tst_wel_reader::marker_begins_a_name_without_a_folder()
 {
-    const QTemporaryDir folder;
-    const QString before = QDir::currentPath();
-    QVERIFY(QFile::copy(SAMPLES "two_columns_E.wel", folder.filePath("_P.wel")));
-    QVERIFY(QDir::setCurrent(folder.path()));
+    const working_folder folder;
+    QVERIFY(QFile::copy(SAMPLES "two_columns_E.wel", "_P.wel"));
     const plot_pair plots;
     plots.document->readFile("_P.wel");
-    QVERIFY(QDir::setCurrent(before));
     QCOMPARE(plots.document->plot_mode, 5);
 }
 
@@ -123,11 +121,7 @@ void tst_wel_reader::cannot_be_opened()
     const modal_boxes boxes;
     plots.document->readFile(name.isEmpty() ? QString() : folder.filePath(name));
     QCOMPARE(boxes.shown().size(), 1);
-    QCOMPARE(boxes.shown()[0].title, "Error");
-    QCOMPARE(boxes.shown()[0].text, "Could not open or read file");
-    QCOMPARE(boxes.shown()[0].buttons, QMessageBox::Ok);
-    QCOMPARE(boxes.shown()[0].icon, QMessageBox::NoIcon);
-    QVERIFY(boxes.shown()[0].was_modal);
+    QVERIFY(is_read_error(boxes.shown()[0]));
     QCOMPARE(dump(*plots.document), "mode -1\n");
 }
 

@@ -18,7 +18,7 @@ WINDOW = (
 )
 DOCU = (
     "tst_docu_layout tst_docu_navigation tst_docu_search tst_zoom_selector tst_docu_bad_files "
-    "tst_docu_keys tst_docu_hostile_files tst_manual_command tst_manual_module"
+    "tst_docu_keys tst_docu_hostile_files tst_manual_command tst_manual_loader"
 )
 
 # The first row with which the path begins holds; the second column comes before the third.
@@ -68,7 +68,7 @@ TABLE = [
     ("ui/application_icon", "tst_startup tst_information", WINDOW),
     ("ui/", "tst_layout", WINDOW),
     ("docu/docudialog_accessibility", "tst_docu_keys", DOCU),
-    ("docu/manual_module", "tst_manual_module", ""),
+    ("docu/manual_module", "tst_manual_loader", ""),
     ("docu/zoomselector", "tst_zoom_selector", DOCU),
     ("docu/", "", DOCU),
 ]

@@ -1,4 +1,4 @@
-#include "app/manual_module.h"
+#include "app/manual_loader.h"
 #include "tests/support/modal_boxes.h"
 #include "tests/support/pdf_file.h"
 #include "tests/support/window_driver.h"
@@ -37,7 +37,7 @@ bool is_missing_module(const QList<shown_box>& boxes)
 
 } // namespace
 
-class tst_manual_module : public QObject
+class tst_manual_loader : public QObject
 {
     Q_OBJECT
 
@@ -48,7 +48,7 @@ private slots:
     void broken_module();
 };
 
-void tst_manual_module::place_of_the_module()
+void tst_manual_loader::place_of_the_module()
 {
     const QTemporaryDir prefix;
     const QDir root(prefix.path());
@@ -65,7 +65,7 @@ void tst_manual_module::place_of_the_module()
     QCOMPARE(manual_module_of(programs.path()), programs.filePath(module_name));
 }
 
-void tst_manual_module::opens_the_manual()
+void tst_manual_loader::opens_the_manual()
 {
     window_driver driver;
     pdf_file file = numbered_pages(3);
@@ -89,7 +89,7 @@ void tst_manual_module::opens_the_manual()
     QVERIFY(boxes.shown().isEmpty());
 }
 
-void tst_manual_module::program_without_its_module()
+void tst_manual_loader::program_without_its_module()
 {
     QCOMPARE(manual_module_of(QCoreApplication::applicationDirPath()), QString());
     window_driver driver;
@@ -101,7 +101,7 @@ void tst_manual_module::program_without_its_module()
     QVERIFY(driver.window.shown_document());
 }
 
-void tst_manual_module::broken_module()
+void tst_manual_loader::broken_module()
 {
     window_driver driver;
     write_file(driver.folder.filePath(module_name), "no library");
@@ -111,5 +111,5 @@ void tst_manual_module::broken_module()
     QVERIFY(manuals_of(driver.window).isEmpty());
 }
 
-QTEST_MAIN(tst_manual_module)
-#include "tst_manual_module.moc"
+QTEST_MAIN(tst_manual_loader)
+#include "tst_manual_loader.moc"

@@ -1,4 +1,4 @@
-#include "app/manual_module.h"
+#include "app/manual_loader.h"
 
 #include <QDebug>
 #include <QDir>
