@@ -18,12 +18,6 @@ private:
     QByteArray log() const;
 };
 
-namespace {
-
-constexpr QLatin1StringView manual_title("plot_korimo: Ganglinien und Kennlinien ansehen");
-
-} // namespace
-
 void tst_installed_road::init()
 {
     program = std::make_unique<viewer>(
@@ -35,7 +29,7 @@ void tst_installed_road::init()
 void tst_installed_road::add_example(const QString& name)
 {
     program->choose_file_entry(0);
-    QVERIFY(viewer::sees_window("Auswahl der Datei zum Plotten"));
+    QVERIFY(viewer::sees_window(window_title::files));
     QTest::qWait(500);
     program->type("examples/" + name);
     program->key("Return");
@@ -69,7 +63,7 @@ void tst_installed_road::hydrographs()
 
 void tst_installed_road::manual()
 {
-    open_manual(manual_title);
+    open_manual(window_title::manual);
     keep_screenshot("installed_manual");
     program->close_main_window();
     QVERIFY(viewer::sees_no_window("plot_korimo"));

@@ -32,7 +32,7 @@ QString all_of(const QString& folder, const QStringList& kinds)
 QString literals_of_the_program()
 {
     QString code;
-    for (const char* folder : {"ui", "docu", "plot"})
+    for (const char* folder : {"app", "ui", "docu", "plot"})
         code += all_of(folder, {"*.cpp"});
     static const QRegularExpression joint("\"\\s*\"");
     static const QRegularExpression literal("\"((?:[^\"\\\\\\n]|\\\\.)*)\"");
@@ -40,8 +40,10 @@ QString literals_of_the_program()
     QString texts;
     for (const QRegularExpressionMatch& match : literal.globalMatch(code))
         texts += match.captured(1) + "\n";
-    return QString(texts).replace("%1", "Orvan_Info.txt") +
-           QString(texts).replace("%1", "LICENSE.LGPLv3");
+    QString filled;
+    for (const char* file : {"Orvan_Info.txt", "LICENSE.LGPLv3", "libkorimo_manual.so"})
+        filled += QString(texts).replace("%1", file);
+    return filled;
 }
 
 // The texts on everything that can be pressed or chosen, in all windows of the program.
