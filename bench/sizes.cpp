@@ -19,7 +19,7 @@ constexpr qint64 hundred_mb = 100'000'000;
 constexpr qsizetype rows_of_five_gb = 45'900'000;
 constexpr int files = 10'000;
 constexpr int names = 100'000;
-const QByteArray short_row = "0 1 2 3 4 5 6 7 8 9\n";
+constexpr char short_row[] = "0 1 2 3 4 5 6 7 8 9\n";
 
 // A kind of file, how it is made, and what it may take at most.
 struct size
@@ -62,7 +62,7 @@ std::function<void(const QString&)> rows(qsizetype count)
 // Zeros that take no room on the disk.
 void make_hole(const QString& path)
 {
-    write_repeated(path, "Ganglinien\n" + short_row, " ", 0);
+    write_repeated(path, QByteArray("Ganglinien\n") + short_row, " ", 0);
     if (!QFile::resize(path, five_gb))
         qFatal("a large file cannot be written");
 }
@@ -111,7 +111,7 @@ std::string node_of(qsizetype count)
 
 QList<size> sizes()
 {
-    const QByteArray title = "Ganglinien Knoten K1\n" + short_row;
+    const QByteArray title = QByteArray("Ganglinien Knoten K1\n") + short_row;
     const double series_of_rows = 80.0; // bytes: ten columns
     const std::string nothing =
         "box: Could not open or read file\n"
@@ -130,8 +130,9 @@ QList<size> sizes()
         {"100 MB, many tokens", "x_K.wel", repeated(title, "1 ", hundred_mb), 1500, 10, node_of(2)},
         {"the same with the log", "x_K.wel", repeated(title, "1 ", hundred_mb), 3000, 20,
          node_of(2), true},
-        {"a title of 100 MB", "x_K.wel", repeated("", "Ganglinien ", hundred_mb, "\n" + short_row),
-         1000, 10, node_of(1)},
+        {"a title of 100 MB", "x_K.wel",
+         repeated("", "Ganglinien ", hundred_mb, QByteArray("\n") + short_row), 1000, 10,
+         node_of(1)},
         {"100 MB in one line, BEK", "x.bek", repeated("", "   B1    101.50", hundred_mb), 700, 10,
          "1 files, 1 names, 1 points, 1 points"},
         {"100 MB in one line, DKL", "x.dkl", repeated("", " 1 Auslass1 km 1.5", hundred_mb), 4000,

@@ -1,6 +1,7 @@
 #include "tests/end_to_end/desktop.h"
 #include "tests/end_to_end/road.h"
 
+#include <QApplication>
 #include <QDrag>
 #include <QFile>
 #include <QMimeData>
@@ -67,7 +68,7 @@ void drag_over(const QWidget& source, const QPoint& target)
 
 void let_go_in(int milliseconds)
 {
-    QTimer::singleShot(milliseconds, [] { start_xdotool({"mouseup", "1"}); });
+    QTimer::singleShot(milliseconds, qApp, [] { start_xdotool({"mouseup", "1"}); });
 }
 
 } // namespace
@@ -234,7 +235,7 @@ void tst_hydrograph_road::closing_below_a_drag()
     QVERIFY(QTest::qWaitForWindowExposed(&source));
     int exit_code = -1;
     bool was_over = false;
-    QTimer::singleShot(2500, [&] {
+    QTimer::singleShot(2500, &source, [&] {
         was_over = !source.finished;
         viewer::close_by_key();
         exit_code = program->exit_code();
