@@ -35,17 +35,13 @@ QPixmap stacked(const QPixmap& upper, const QPixmap& lower)
     return both;
 }
 
-// A name with a "/" would lead to another folder, and a NUL would end the path before the ".png":
-// the data file itself may be of that name.
-bool can_name_a_file(const QString& curve)
-{
-    return !curve.contains(u'/') && !curve.contains(QChar(u'\0'));
-}
-
-// Where a FIFO or a device stands, writing might wait for ever. A link may lead to the data file.
+// Where a FIFO or a device stands, writing might wait for ever. A NUL, which a name may have, would
+// end the path before the ".png": the data file itself may be of that name, or a link lead to it.
 bool may_be_written(const QString& file, const QString& data_file)
 {
     const QFileInfo place(file);
+    if (file.contains(QChar(u'\0')))
+        return false;
     if (!place.exists())
         return true;
     return place.isFile() &&
@@ -91,8 +87,8 @@ void MainWindow::on_action_speicher_triggered()
     const QString file = two_step_mode ? image_file_of_curve(path, selected_item_name)
                                        : image_file_of_hydrograph(path);
     // Deliberate: the box names the file that was meant, whatever became of it.
-    const bool is_named = !two_step_mode || can_name_a_file(selected_item_name);
-    if (is_named && may_be_written(file, path))
+    const bool leads_elsewhere = two_step_mode && selected_item_name.contains(u'/');
+    if (!leads_elsewhere && may_be_written(file, path))
         save(picture, file);
     QMessageBox box;
     box.setWindowIcon(application_icon());

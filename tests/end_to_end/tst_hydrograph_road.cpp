@@ -226,8 +226,8 @@ void tst_hydrograph_road::closing_from_the_menu()
     QCOMPARE(program->exit_code(), 0);
 }
 
-// As the session does; the button stays down until the program is gone. The drag has a loop of its
-// own, which returns no sooner.
+// The mouse button stays down until the program is gone. The drag has a loop of its own, which
+// returns no sooner.
 void tst_hydrograph_road::closing_below_a_drag()
 {
     QVERIFY(program->bring("Erlenbach_K1.wel"));

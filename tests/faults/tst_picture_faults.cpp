@@ -1,6 +1,7 @@
 #include "plot/korimo_plot.h"
 #include "tests/support/limits.h"
 #include "tests/support/modal_boxes.h"
+#include "tests/support/read_file.h"
 #include "tests/support/window_driver.h"
 #include "tests/support/write_file.h"
 
@@ -8,6 +9,7 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QImage>
+#include <QListWidget>
 #include <QPushButton>
 #include <QTest>
 
@@ -52,6 +54,7 @@ private slots:
     void device();
     void link_to_the_data_file();
     void name_that_leads_elsewhere();
+    void path_with_a_nul();
     void no_more_room_data();
     void no_more_room();
     void earlier_picture_stays_on_a_full_disk();
@@ -78,9 +81,7 @@ void tst_picture_faults::link_to_the_data_file()
     const QString data_file = window.driver.folder.filePath("x_K.wel");
     QVERIFY(QFile::link(data_file, window.picture));
     QVERIFY(window.save());
-    QFile file(data_file);
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    QCOMPARE(file.readAll(), node_file(9));
+    QCOMPARE(read_file(data_file), node_file(9));
     QVERIFY(window.saves_again());
 }
 
@@ -98,9 +99,21 @@ void tst_picture_faults::name_that_leads_elsewhere()
     driver.window.findChild<QAction*>("action_speicher")->trigger();
     QCOMPARE(boxes.shown().size(), 1);
     QCOMPARE(boxes.shown()[0].text, "File saved to " + other);
-    QFile file(other);
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    QCOMPARE(file.readAll(), "an earlier picture");
+    QCOMPARE(read_file(other), "an earlier picture");
+}
+
+// Up to the NUL, the path is that of another file.
+void tst_picture_faults::path_with_a_nul()
+{
+    const window_driver driver;
+    const QString other = driver.folder.filePath("other");
+    write_file(other, "something else");
+    driver.list->addItem(other + QChar(u'\0') + "_K.wel");
+    driver.select(0);
+    const modal_boxes boxes;
+    driver.press(driver.button);
+    driver.window.findChild<QAction*>("action_speicher")->trigger();
+    QCOMPARE(read_file(other), "something else");
 }
 
 void tst_picture_faults::no_more_room_data()
@@ -135,9 +148,7 @@ void tst_picture_faults::earlier_picture_stays_on_a_full_disk()
         QVERIFY(window.save());
     }
     std::signal(SIGXFSZ, before);
-    QFile picture(window.picture);
-    QVERIFY(picture.open(QIODevice::ReadOnly));
-    QCOMPARE(picture.readAll(), "an earlier picture");
+    QCOMPARE(read_file(window.picture), "an earlier picture");
     QCOMPARE(QDir(window.driver.folder.path()).entryList(QDir::Files | QDir::Hidden).size(), 2);
     QVERIFY(window.saves_again());
 }
