@@ -19,21 +19,6 @@ has_commands() {
   for name in "$@"; do command -v "$name" >/dev/null || return; done
 }
 
-# Trees of an older recipe go, unless a command is still running in them.
-remove_outdated_extra() {
-  local tree waste
-  for tree in "$cache_dir/$1"-*/; do
-    tree=${tree%/}
-    [[ -d $tree && $tree != "$(extra_dir "$1")" ]] || continue
-    flock --nonblock "$cache_dir/use-${tree##*-}.lock" true || continue
-    say "removing the outdated ${tree##*/}"
-    # The name of what is left over: should this be interrupted, the next set-up goes on with it.
-    waste=$cache_dir/new-${tree##*-}
-    mv -T -- "$tree" "$waste" && remove_tree "$waste"
-    rm -f -- "$cache_dir/use-${tree##*-}.lock"
-  done
-}
-
 # The steps of the first root file system with another list of packages and another check.
 # shellcheck disable=SC2016,SC2034,SC2317,SC2329 # those steps use what is set and defined here
 set_up_extra() (
@@ -52,7 +37,7 @@ set_up_extra() (
   require_tools
   require_space
   say "$purpose are fetched"
-  make_rootfs "$(extra_dir "$name")" && remove_outdated_extra "$name"
+  make_rootfs "$(extra_dir "$name")" && remove_outdated "$name" "$(extra_dir "$name")"
 )
 
 # prepare_extra NAME sets the variable of that name to "native" or the folder of the root file

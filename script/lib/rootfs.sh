@@ -83,7 +83,7 @@ unmount_inside() {
 
 # Removes an environment of ours and nothing else.
 remove_tree() {
-  [[ $1 == "$cache_dir"/rootfs-* || $1 == "$cache_dir"/new-* ]] || return
+  [[ $1 == "$cache_dir"/new-* ]] || return
   [[ -e $1 ]] || return 0
   unmount_inside "$1"
   if [[ -O $1 ]]; then
@@ -104,15 +104,17 @@ remove_leftovers() {
   done
 }
 
-# Environments of an older recipe go, unless a command is still running in them.
+# remove_outdated NAME TREE: all trees of that name but this one go, unless a command is still running in them.
 remove_outdated() {
-  local tree
-  for tree in "$cache_dir"/rootfs-*/; do
+  local tree waste
+  for tree in "$cache_dir/$1"-*/; do
     tree=${tree%/}
-    [[ -d $tree && $tree != "$(rootfs_dir)" ]] || continue
+    [[ -d $tree && $tree != "$2" ]] || continue
     flock --nonblock "$cache_dir/use-${tree##*-}.lock" true || continue
-    say "removing the outdated environment ${tree##*/}"
-    remove_tree "$tree"
+    say "removing the outdated ${tree##*/}"
+    # The name of what is left over: should this be interrupted, the next set-up goes on with it.
+    waste=$cache_dir/new-${tree##*-}
+    mv -T -- "$tree" "$waste" && remove_tree "$waste"
     rm -f -- "$cache_dir/use-${tree##*-}.lock"
   done
 }
@@ -158,5 +160,5 @@ rootfs_set_up() {
   require_tools
   require_space
   make_rootfs "$(rootfs_dir)"
-  remove_outdated
+  remove_outdated rootfs "$(rootfs_dir)"
 }

@@ -6,9 +6,9 @@ lib_dir=${BASH_SOURCE[0]%/*}
 # shellcheck source=script/lib/extra_rootfs.sh
 source "$lib_dir/extra_rootfs.sh"
 
-tools_packages=(clang llvm libclang-rt-dev valgrind gcovr xvfb openbox xdotool locales git
+tools_packages=(clang lld llvm libclang-rt-dev valgrind xvfb openbox xdotool locales git
   ca-certificates)
-tools_commands=(clang++ llvm-cov valgrind gcovr cmake)
+tools_commands=(clang++ ld.lld llvm-cov valgrind cmake)
 tools_megabytes=4200
 tools_purpose="the tools that look for defects"
 

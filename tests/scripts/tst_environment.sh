@@ -34,12 +34,12 @@ test_locales() {
 }
 
 test_only_own_trees_are_removed() {
-  mkdir -p "$scratch/precious" "$cache_dir/rootfs-old/etc" "$cache_dir/other"
+  mkdir -p "$scratch/precious" "$cache_dir/new-old/etc" "$cache_dir/other"
   expect "a strange folder" "$(succeeds remove_tree "$scratch/precious")" no
   expect "another folder of the cache" "$(succeeds remove_tree "$cache_dir/other")" no
-  expect "an environment" "$(succeeds remove_tree "$cache_dir/rootfs-old")" yes
-  expect "what is left" "$(cd "$scratch" && echo precious cache/plot_korimo/{other,rootfs-*})" \
-    "precious cache/plot_korimo/other cache/plot_korimo/rootfs-*"
+  expect "what is left of an environment" "$(succeeds remove_tree "$cache_dir/new-old")" yes
+  expect "what is left" "$(cd "$scratch" && echo precious cache/plot_korimo/{other,new-*})" \
+    "precious cache/plot_korimo/other cache/plot_korimo/new-*"
 }
 
 test_outdated_trees_wait_for_their_users() {
@@ -47,11 +47,11 @@ test_outdated_trees_wait_for_their_users() {
   mkdir -p "$cache_dir"/rootfs-{used,idle}
   exec {use}>>"$cache_dir/use-used.lock"
   flock --shared "$use"
-  remove_outdated 2>/dev/null
+  remove_outdated rootfs "$(rootfs_dir)" 2>/dev/null
   expect "in use" "$(succeeds test -d "$cache_dir/rootfs-used")" yes
   expect "idle" "$(succeeds test -d "$cache_dir/rootfs-idle")" no
   exec {use}>&-
-  remove_outdated 2>/dev/null
+  remove_outdated rootfs "$(rootfs_dir)" 2>/dev/null
   expect "no longer in use" "$(succeeds test -d "$cache_dir/rootfs-used")" no
 }
 
@@ -76,7 +76,7 @@ test_outdated_further_environments_go() {
   mkdir -p "$cache_dir"/{one-used,one-idle,two-idle} "$(extra_dir one)"
   exec {use}>>"$cache_dir/use-used.lock"
   flock --shared "$use"
-  remove_outdated_extra one 2>/dev/null
+  remove_outdated one "$(extra_dir one)" 2>/dev/null
   exec {use}>&-
   expect "what is left" "$(cd "$cache_dir" && echo {one,two,new}-*)" \
     "$(printf '%s\n' "one-$(extra_key one)" one-used | sort | paste -sd' ') two-idle new-*"
