@@ -80,6 +80,7 @@ class Worker:
         quick = self.tree / "script/lib/quick_build.cmake"
         self._must(["cmake", "-G", "Ninja", "-S", self.tree, "-B", self.build,
                     "-DCMAKE_BUILD_TYPE=None", f"-DCMAKE_CXX_FLAGS={FLAGS}",
+                    "-DCMAKE_CXX_COMPILER=clang++", "-DCMAKE_LINKER_TYPE=LLD",
                     "-DKORIMO_END_TO_END_TESTS=OFF",
                     f"-DCMAKE_PROJECT_plot_korimo_INCLUDE={quick}"])
 
