@@ -22,6 +22,8 @@ if(KORIMO_SANITIZE OR KORIMO_FUZZERS)
   set(_sanitizers -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
   target_compile_options(korimo_build_options INTERFACE ${_sanitizers})
   target_link_options(korimo_build_options INTERFACE ${_sanitizers})
+  # They make unoptimized code far too slow for the tests.
+  target_compile_options(korimo_build_options INTERFACE $<$<CONFIG:Debug>:-O1>)
 endif()
 
 # Counts how often each place in the code is reached; only a fuzzer has the function that looks.

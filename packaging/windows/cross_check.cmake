@@ -8,7 +8,7 @@ set(only_linux "app/open_manual.cpp|app/manual_loader.cpp|docu/manual_module.cpp
 execute_process(COMMAND ${CMAKE_COMMAND} -G Ninja -S "${SOURCE}" -B "${BUILD}" -DCMAKE_BUILD_TYPE=Release
   COMMAND_ERROR_IS_FATAL ANY)
 execute_process(COMMAND ${CMAKE_COMMAND} --build "${BUILD}" --target
-  korimo_viewer_autogen korimo_docu_autogen COMMAND_ERROR_IS_FATAL ANY)
+  korimo_viewer_autogen korimo_docu_autogen korimo_forms COMMAND_ERROR_IS_FATAL ANY)
 execute_process(COMMAND qtpaths6 --query QT_INSTALL_HEADERS
   OUTPUT_VARIABLE qt OUTPUT_STRIP_TRAILING_WHITESPACE COMMAND_ERROR_IS_FATAL ANY)
 file(STRINGS "${BUILD}/CMakeCache.txt" qwt REGEX "^Qwt_INCLUDE_DIR:")
@@ -18,7 +18,7 @@ string(REGEX REPLACE "^[^=]*=" "" qwt "${qwt}")
 file(WRITE "${BUILD}/stand_in/QtGui/qwindowdefs_win.h" "#pragma once\n#include <windef.h>\n")
 
 set(flags -std=c++20 -fsyntax-only -Wall -Wextra -Werror -DUNICODE -D_UNICODE
-  "-I${SOURCE}" "-I${BUILD}/korimo_viewer_autogen/include"
+  "-I${SOURCE}" "-I${BUILD}"
   -isystem "${BUILD}/stand_in" -isystem "${qwt}" -isystem "${qt}")
 foreach(module IN ITEMS Core Gui Widgets Pdf PdfWidgets Svg OpenGL PrintSupport)
   list(APPEND flags -isystem "${qt}/Qt${module}")

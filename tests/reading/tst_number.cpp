@@ -256,6 +256,8 @@ void tst_number::value_of_text_data()
     row("-0", -0.0);
     row("", 0.0);
     row("   ", 0.0);
+    row("\t\v\f1.25\r\n", 1.25); // what Qt takes for blanks, too
+    row("\0371", 0.0);
     row("1 2", 0.0);
     row("!1", 0.0);
     row("1!", 0.0);
