@@ -45,7 +45,6 @@ void korimo_plot::read_or_report(QFile& file, const std::function<void(text_line
     } catch (const std::bad_alloc&) {
         plot_mode = mode_before;
         wel_title.clear();
-        kennlinien_list.clear();
         series = {};
     }
     report_unreadable_file();

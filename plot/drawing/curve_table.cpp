@@ -1,5 +1,7 @@
 #include "plot/drawing/curve_table.h"
 
+#include "plot/series_store.h"
+
 #include <algorithm>
 
 namespace {
@@ -56,6 +58,20 @@ constexpr plot_mode_rule rules[] = {
      {u"Q [m3/s]", u"h [müNHN]"}, {u"V [Tsd. m3]", u"h [müNHN]"}},
 };
 // clang-format on
+
+constexpr bool stays_in_the_store(const plot_mode_rule& rule)
+{
+    return std::ranges::all_of(rule.curves, is_entry, &curve_rule::x) &&
+           std::ranges::all_of(rule.curves, is_entry, &curve_rule::y);
+}
+static_assert(std::ranges::all_of(rules, stays_in_the_store));
+
+constexpr bool names_curves_of_the_document(const plot_mode_rule& rule)
+{
+    const auto is_one = [](int curve) { return curve >= 0 && curve < 4; };
+    return std::ranges::all_of(rule.curves, is_one, &curve_rule::curve);
+}
+static_assert(std::ranges::all_of(rules, names_curves_of_the_document));
 
 } // namespace
 

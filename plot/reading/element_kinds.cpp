@@ -1,12 +1,14 @@
 #include "plot/reading/element_kinds.h"
 
+#include "plot/series_store.h"
+
 #include <algorithm>
 
 namespace {
 
-// What the entries hold of a WEL file: 0 time [h]; 2 hN, 4 heff [mm]; 5 Qab1, 6 Qab2, 8 Qb, 10
-// Qein, 11 QG, 12 Qges, 14 Qab, 20 Qpeg [m3/s]; 23 V [m3]. The others are stored and not drawn; 15
-// is free.
+// What the entries hold of a WEL file. Drawn: 0 time [h]; 2 hN, 4 heff [mm]; 5 Qab1, 6 Qab2, 8 Qb,
+// 10 Qein, 11 QG, 12 Qges, 14 Qab, 20 Qpeg [m3/s]; 23 V [m3]. Stored only: 1 h, 3 hV, 5 QD, 6 QI,
+// 7 QGW, 9 Qzu, 13 Qhw, 16 Qver, 24 A, and 16 to 19, 21, 22 of kind T. 15 is free.
 
 // clang-format off
 constexpr element_kind kinds[] = {
@@ -25,6 +27,13 @@ constexpr element_kind kinds[] = {
     {"P",  {u"_P"},          5,         { 0, 12, 20}},
 };
 // clang-format on
+
+constexpr bool stays_in_the_store(const element_kind& kind)
+{
+    return std::ranges::all_of(kind.columns, is_entry) &&
+           std::ranges::all_of(kind.columns_of_seven, is_entry);
+}
+static_assert(std::ranges::all_of(kinds, stays_in_the_store));
 
 } // namespace
 

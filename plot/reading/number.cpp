@@ -46,15 +46,6 @@ bool take_number(QByteArrayView& line, double& value)
     return number.has_value();
 }
 
-QByteArrayView without_blanks_around(QByteArrayView text)
-{
-    while (text.startsWith(' '))
-        text = text.sliced(1);
-    while (text.endsWith(' '))
-        text.chop(1);
-    return text;
-}
-
 } // namespace
 
 std::optional<double> number_in(QByteArrayView token)
@@ -81,9 +72,11 @@ bool read_numbers(QByteArrayView line, std::vector<double>& values)
 
 double value_of(QByteArrayView text)
 {
-    text = without_blanks_around(text);
+    text = text.trimmed();
+    if (text.isEmpty())
+        return 0.0;
     double value = 0.0;
-    if (text.isEmpty() || read_plainly(text, value))
+    if (read_plainly(text, value))
         return value;
     return decoded(text).toDouble();
 }
