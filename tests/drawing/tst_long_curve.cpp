@@ -31,6 +31,7 @@ private slots:
     void shapes_and_ranges();
     void irregular_data();
     void irregular();
+    void left_edges();
     void pens();
     void bounding_rectangle_data();
     void bounding_rectangle();
@@ -98,6 +99,7 @@ void tst_long_curve::irregular_data()
         for (double& x : each.x)
             x += x > 800.0 ? 1000.0 : 0.0;
     });
+    row("first value long before", [](series& each) { each.x.first() = -1000.0; });
     row("far away", [](series& each) { each.x.last() = 1e300; });
     row("infinite first time", [](series& each) { each.x.first() = -infinity; });
     row("NaN in the last value", [](series& each) { each.y.last() = nan; });
@@ -116,10 +118,22 @@ void tst_long_curve::irregular()
 {
     QFETCH(QList<double>, x);
     QFETCH(QList<double>, y);
-    for (const range& shown : {range{0.0, 1700.0}, range{200.0, 900.0}, range{416.0, 418.0},
-                               range{900.0, 1600.0}, range{0.0, 416.6}}) {
+    for (const range& shown :
+         {range{0.0, 1700.0}, range{200.0, 900.0}, range{416.0, 418.0}, range{900.0, 1600.0},
+          range{0.0, 416.6}, range{900.0, 2600.0}, range{-400.0, 1300.0}}) {
         compare({x, y}, {shown, {0.0, 1.0}});
         compare({x, y}, {shown, {-0.2, 0.6}});
+    }
+}
+
+// Where between two points the edge lies, and whether the line comes in above, within or below what
+// is in sight, tells where the pieces of the line end.
+void tst_long_curve::left_edges()
+{
+    const series shown = made_of(noise(4, 1), 20'000);
+    for (int i = 0; i < 60; ++i) {
+        const double left = 200.0 + 3.0137 * i;
+        compare(shown, {{left, left + 700.0}, {0.3, 0.6}});
     }
 }
 

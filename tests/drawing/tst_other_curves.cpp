@@ -32,15 +32,22 @@ QList<double> waves()
     return values;
 }
 
-const QwtScaleMap x_scale = scale({0.0, points - 1}, 0.0, canvas.width() - 1);
-const QwtScaleMap y_scale = scale({-1.0, 1.0}, canvas.height() - 1, 0.0);
+QwtScaleMap x_scale()
+{
+    return scale({0.0, points - 1}, 0.0, canvas.width() - 1);
+}
+
+QwtScaleMap y_scale()
+{
+    return scale({-1.0, 1.0}, canvas.height() - 1, 0.0);
+}
 
 using curve_change = std::function<void(QwtPlotCurve&)>;
 using drawing = std::function<void(const QwtPlotCurve&, QPainter&)>;
 
 void draw_all(const QwtPlotCurve& curve, QPainter& painter)
 {
-    curve.draw(&painter, x_scale, y_scale, QRectF(QPointF(), canvas));
+    curve.draw(&painter, x_scale(), y_scale(), QRectF(QPointF(), canvas));
 }
 
 void draw_unclipped(const QwtPlotCurve& curve, QPainter& painter)
@@ -82,7 +89,7 @@ void draw_unsplit(const QwtPlotCurve& curve, QPainter& painter)
 drawing part_drawn(int from, int to)
 {
     return [=](const QwtPlotCurve& curve, QPainter& painter) {
-        curve.drawSeries(&painter, x_scale, y_scale, QRectF(QPointF(), canvas), from, to);
+        curve.drawSeries(&painter, x_scale(), y_scale(), QRectF(QPointF(), canvas), from, to);
     };
 }
 
@@ -91,7 +98,7 @@ drawing drawn_in(const QRectF& rectangle)
 {
     return [=](const QwtPlotCurve& curve, QPainter& painter) {
         painter.setClipping(false);
-        curve.draw(&painter, x_scale, y_scale, rectangle);
+        curve.draw(&painter, x_scale(), y_scale(), rectangle);
     };
 }
 

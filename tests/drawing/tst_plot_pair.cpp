@@ -96,7 +96,7 @@ private:
 void tst_plot_pair::every_mode_is_finished_data()
 {
     QTest::addColumn<int>("mode");
-    for (int mode = -1; mode <= 10; ++mode)
+    for (int mode = -1; mode <= 20; ++mode)
         QTest::addRow("%d", mode) << mode;
 }
 

@@ -11,12 +11,21 @@ class tst_store : public QObject
     Q_OBJECT
 
 private slots:
+    void entries();
     void fresh_document();
     void invocable_methods_in_order();
     void getters_return_copies();
     void new_names_data();
     void new_names();
 };
+
+void tst_store::entries()
+{
+    QVERIFY(is_entry(0));
+    QVERIFY(is_entry(24));
+    QVERIFY(!is_entry(25));
+    QVERIFY(!is_entry(-1));
+}
 
 void tst_store::fresh_document()
 {

@@ -2,6 +2,7 @@
 
 #include <QColor>
 #include <QDir>
+#include <QPainter>
 #include <QTest>
 
 namespace {
@@ -40,9 +41,16 @@ int most_others(const QImage& a, const QImage& b)
     return most;
 }
 
+QImage without(const QRect& changing, QImage picture)
+{
+    picture.setDevicePixelRatio(1.0); // a screenshot has that of its screen
+    QPainter(&picture).fillRect(changing, Qt::black);
+    return picture;
+}
+
 } // namespace
 
-void show_picture(const QString& name, const QImage& picture)
+void show_picture(const QString& name, const QImage& picture, const QRect& changing)
 {
     const QString file_name = name + ".png";
     const QString folder = qEnvironmentVariable("KORIMO_TOUR");
@@ -52,7 +60,8 @@ void show_picture(const QString& name, const QImage& picture)
     }
     const QImage kept(QStringLiteral(TOUR "/") + file_name);
     const bool same_size = kept.size() == picture.size();
-    const int others = same_size ? most_others(kept, picture) : -1;
+    const int others =
+        same_size ? most_others(without(changing, kept), without(changing, picture)) : -1;
     if (same_size && others <= tolerated)
         return;
     picture.save(file_name);

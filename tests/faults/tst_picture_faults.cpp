@@ -54,7 +54,6 @@ private slots:
     void device();
     void link_to_the_data_file();
     void name_that_leads_elsewhere();
-    void path_with_a_nul();
     void no_more_room_data();
     void no_more_room();
     void earlier_picture_stays_on_a_full_disk();
@@ -100,20 +99,6 @@ void tst_picture_faults::name_that_leads_elsewhere()
     QCOMPARE(boxes.shown().size(), 1);
     QCOMPARE(boxes.shown()[0].text, "File saved to " + other);
     QCOMPARE(read_file(other), "an earlier picture");
-}
-
-// Up to the NUL, the path is that of another file.
-void tst_picture_faults::path_with_a_nul()
-{
-    const window_driver driver;
-    const QString other = driver.folder.filePath("other");
-    write_file(other, "something else");
-    driver.list->addItem(other + QChar(u'\0') + "_K.wel");
-    driver.select(0);
-    const modal_boxes boxes;
-    driver.press(driver.button);
-    driver.window.findChild<QAction*>("action_speicher")->trigger();
-    QCOMPARE(read_file(other), "something else");
 }
 
 void tst_picture_faults::no_more_room_data()
