@@ -37,14 +37,15 @@ occupy_fuzz_dir() {
   environment=$1 clear_if_foreign "$build_dir/.fuzz_environment" "${build_dir:?}/fuzz"
 }
 
-# In the folder of the project. Ninja calls CMake again by itself when one of its files changes.
+# configure_and_build PRESET [TARGET…], all targets if none is named, in the folder of the project. Ninja calls
+# CMake again by itself when one of its files changes.
 configure_and_build() {
   [[ -f build/$1/build.ninja ]] || cmake --preset "$1" || return
-  cmake --build --preset "$1"
+  cmake --build --preset "$1" ${2:+--target "${@:2}"}
 }
 
 # shellcheck disable=SC2016 # the inner bash expands it
 build_preset() {
   cd -- "$project_dir" || return
-  in_environment bash -c 'source "$0"; configure_and_build "$1"' "$lib/build.sh" "$1"
+  in_environment bash -c 'source "$0"; configure_and_build "$@"' "$lib/build.sh" "$@"
 }
