@@ -1,4 +1,5 @@
-# The Debian package, and one beside it with the debug information.
+# The Debian package, and one beside it with the debug information. Taken in behind linux/install.cmake: the
+# folder `made` and GZIP are its own.
 set(CPACK_GENERATOR DEB)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_RELEASE 1)

@@ -4,6 +4,7 @@ configure_file("${CHANGELOG}" "${FOLDER}/changelog" COPYONLY)
 
 set(entries)
 file(STRINGS "${CHANGELOG}" headings REGEX "^## ")
+list(REMOVE_ITEM headings "## Unreleased")
 foreach(heading IN LISTS headings)
   if(NOT heading MATCHES "^## ([0-9.]+) \\(([0-9-]+)\\)$")
     message(FATAL_ERROR "no version and date in \"${heading}\"")
