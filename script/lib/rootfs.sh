@@ -31,7 +31,9 @@ apt_policy() {
   echo 'APT::Install-Recommends "false";'
 }
 
-rootfs_packages() { wanted_packages test apt | cut -d' ' -f1 | paste -sd,; }
+rootfs_packages() {
+  { wanted_packages test apt; wanted_packages tree apt; } | cut -d' ' -f1 | sort -u | paste -sd,
+}
 
 # Things inside the tree that the sandbox later covers with the system's own must exist.
 rootfs_hooks=(

@@ -96,6 +96,8 @@ test_a_changed_list_asks_for_a_new_tree() {
 test_package_kinds() {
   expect "tools only for tests" "$(wanted_packages build apt | grep -c xvfb || true)" 0
   expect "tests need both" "$(wanted_packages test apt | grep -cE '^(xvfb|cmake) ')" 2
+  expect "a tool of the tree" "$(rootfs_packages | grep -cw clang-tidy-22)" 1
+  expect "which no system must have" "$(wanted_packages test apt | grep -c clang-tidy-22 || true)" 0
   expect "lowest version" "$(wanted_packages build apt | grep libqwt)" "libqwt-qt6-dev 6.2"
 }
 
