@@ -11,6 +11,7 @@ install(TARGETS plot_korimo BUNDLE DESTINATION .)
 # Beside the bundle, to be looked at and to be started from: the manual opens by its relative name.
 install(FILES "${MANUAL_PDF}" DESTINATION .)
 install(FILES ${EXAMPLE_FILES} DESTINATION examples)
+install(FILES ${KORIMO_LICENSE_FILES} DESTINATION licenses)
 
 # Brings Qt and the other libraries that the program links, Qwt among them, into the bundle.
 qt_generate_deploy_app_script(TARGET plot_korimo OUTPUT_SCRIPT deploy_script)

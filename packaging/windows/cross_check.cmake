@@ -38,12 +38,7 @@ foreach(source IN LISTS sources)
 endforeach()
 message(STATUS "${count} source files compile for Windows")
 
-file(STRINGS "${SOURCE}/CMakeLists.txt" version REGEX "^  VERSION ")
-string(REGEX MATCH "[0-9.]+" PROJECT_VERSION "${version}")
-string(REPLACE "." "," KORIMO_FILE_VERSION "${PROJECT_VERSION}")
-set(KORIMO_VENDOR "Orvan Wasser GmbH")
-set(KORIMO_ORIGINAL_ICON "${SOURCE}/resources/icons/look_and_feel/orvan.ico")
-configure_file("${SOURCE}/packaging/windows/plot_korimo.rc.in" "${BUILD}/plot_korimo.rc" @ONLY)
-execute_process(COMMAND x86_64-w64-mingw32-windres "${BUILD}/plot_korimo.rc" "${BUILD}/plot_korimo.o"
+execute_process(COMMAND x86_64-w64-mingw32-windres
+    "${BUILD}/packaging/plot_korimo.rc" "${BUILD}/plot_korimo.o"
   COMMAND_ERROR_IS_FATAL ANY)
 message(STATUS "the resource file compiles for Windows")

@@ -2,14 +2,12 @@
 #
 # Everything lies in one folder: a shortcut of the installer and a click in the Explorer both start the
 # program in it, and there is the manual.
-set(KORIMO_ORIGINAL_ICON "${PROJECT_SOURCE_DIR}/resources/icons/look_and_feel/orvan.ico")
-string(REPLACE "." "," KORIMO_FILE_VERSION "${PROJECT_VERSION}")
-configure_file("${CMAKE_CURRENT_LIST_DIR}/plot_korimo.rc.in" plot_korimo.rc @ONLY)
-target_sources(plot_korimo PRIVATE "${CMAKE_CURRENT_BINARY_DIR}/plot_korimo.rc")
+target_sources(plot_korimo PRIVATE "${KORIMO_RESOURCE_FILE}")
 
 install(TARGETS plot_korimo RUNTIME DESTINATION .)
 install(FILES "${MANUAL_PDF}" DESTINATION .)
 install(FILES ${EXAMPLE_FILES} DESTINATION examples)
+install(FILES ${KORIMO_LICENSE_FILES} DESTINATION licenses)
 
 get_target_property(qwt_library Qwt::Qwt IMPORTED_LOCATION)
 get_filename_component(qwt_folder "${qwt_library}" DIRECTORY)
