@@ -30,7 +30,7 @@ struct element
     std::span<const column> columns; // after the time
 };
 
-// One element for each kind of result file, and the node N1, in the direction of flow.
+// One element of each kind, and the node N1, in the direction of flow.
 std::span<const element> elements();
 const element* element_of_kind(std::string_view kind);
 
