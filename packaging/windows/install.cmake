@@ -14,13 +14,20 @@ get_filename_component(qwt_folder "${qwt_library}" DIRECTORY)
 find_file(QWT_DLL NAMES qwt-qt6.dll qwt.dll HINTS "${qwt_folder}" "${qwt_folder}/../bin" REQUIRED)
 install(FILES "${QWT_DLL}" DESTINATION .)
 
-# Read when the script runs, not here.
+# Read when the script runs, not here. Qt's tool looks only at the libraries of Qt itself for what they
+# need, so it is told of Qwt's, which needs more of Qt than the program does.
 install(CODE "set(QT_DEPLOY_BIN_DIR .)")
-qt_generate_deploy_app_script(TARGET plot_korimo OUTPUT_SCRIPT deploy_script)
+qt_generate_deploy_script(TARGET plot_korimo OUTPUT_SCRIPT deploy_script CONTENT "
+qt_deploy_runtime_dependencies(
+  EXECUTABLE \"$<TARGET_FILE:plot_korimo>\"
+  ADDITIONAL_LIBRARIES \"${QWT_DLL}\"
+  GENERATE_QT_CONF)
+")
 install(SCRIPT "${deploy_script}")
 
 set(CPACK_GENERATOR ZIP NSIS)
 set(CPACK_PACKAGE_INSTALL_DIRECTORY plot_korimo)
+set(CPACK_NSIS_IGNORE_LICENSE_PAGE ON) # nothing has to be agreed to
 set(CPACK_NSIS_DISPLAY_NAME plot_korimo)
 set(CPACK_NSIS_MUI_ICON "${KORIMO_ORIGINAL_ICON}")
 set(CPACK_NSIS_EXECUTABLES_DIRECTORY .)
