@@ -78,7 +78,7 @@ QStringList includes_of(const QString& room)
     const QStringList names = code_in(room);
     for (const QString& name : names) {
         const QStringList all =
-            matches_of(text_of(room + "/" + name), "^#include \"([^\"]+/[^\"]+)\"");
+            matches_of(text_of(room + "/" + name), "^ *# *include \"([^\"]+/[^\"]+)\"");
         for (const QString& header : all) {
             if (folder_of(header) != room)
                 headers += header;
