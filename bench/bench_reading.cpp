@@ -20,8 +20,6 @@
 #include <cstring>
 #include <optional>
 
-#include <unistd.h>
-
 namespace {
 
 constexpr qsizetype usual_rows = 1'000'000;
@@ -180,11 +178,12 @@ std::vector<bench::figure> growth(const wel_files& files)
 // The resident set of this process.
 double resident_bytes()
 {
-    QFile file("/proc/self/statm");
+    QFile file("/proc/self/status");
     if (!file.open(QIODevice::ReadOnly))
         std::exit(2);
-    return file.readAll().split(' ').value(1).toDouble() *
-           static_cast<double>(sysconf(_SC_PAGESIZE));
+    const QByteArray text = file.readAll();
+    const QByteArray kibibytes = text.sliced(text.indexOf("VmRSS:") + 6).trimmed();
+    return kibibytes.first(kibibytes.indexOf(' ')).toDouble() * 1024.0;
 }
 
 // Reads a short file as often as a file of the usual length has its rows, so that what the process
