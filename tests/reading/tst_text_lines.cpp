@@ -10,6 +10,7 @@
 #include <QTextStream>
 
 #include <algorithm>
+#include <new>
 #include <utility>
 
 namespace {
@@ -60,6 +61,25 @@ private:
     qsizetype most;
 };
 
+// A line to which there is always more.
+class endless_line : public QIODevice
+{
+public:
+    endless_line() { open(QIODevice::ReadOnly | QIODevice::Unbuffered); }
+    bool isSequential() const override { return true; }
+
+    qint64 count = 0; // of the bytes that were asked for
+
+protected:
+    qint64 readData(char* data, qint64 wanted) override
+    {
+        std::fill_n(data, wanted, 'x');
+        count += wanted;
+        return wanted;
+    }
+    qint64 writeData(const char*, qint64) override { return -1; }
+};
+
 QStringList our_lines(const QByteArray& bytes, qsizetype most_at_once = block_size)
 {
     in_pieces device(bytes, most_at_once);
@@ -96,6 +116,7 @@ private slots:
     void blocks_of_an_encoding_data();
     void blocks_of_an_encoding();
     void pair_of_surrogates_across_blocks();
+    void line_without_end();
     void random_bytes_as_a_text_stream();
 };
 
@@ -215,6 +236,17 @@ void tst_text_lines::pair_of_surrogates_across_blocks()
     const QByteArray bytes = "\xFF\xFE" + line;
     QCOMPARE(our_lines(bytes).value(0).last(3), u"x\U0001F4A7"_s);
     QCOMPARE(our_lines(bytes), stream_lines(bytes));
+}
+
+// After 256 MB without an end, and the block that was read to look for one, there is no line.
+void tst_text_lines::line_without_end()
+{
+    const qint64 longest = 256 * 1024 * 1024;
+    endless_line device;
+    text_lines lines(device);
+    QByteArrayView line;
+    QVERIFY_THROWS_EXCEPTION(std::bad_alloc, lines.next(line));
+    QCOMPARE(device.count, longest + block_size);
 }
 
 void tst_text_lines::random_bytes_as_a_text_stream()
