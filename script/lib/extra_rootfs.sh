@@ -36,7 +36,7 @@ set_up_extra() (
   remove_leftovers
   require_tools
   require_space
-  say "$purpose are fetched"
+  say "fetching $purpose"
   make_rootfs "$(extra_dir "$name")" && remove_outdated "$name" "$(extra_dir "$name")"
 )
 

@@ -32,6 +32,7 @@ private slots:
     void irregular_data();
     void irregular();
     void left_edges();
+    void left_edges_in_a_gap();
     void pens();
     void bounding_rectangle_data();
     void bounding_rectangle();
@@ -43,7 +44,7 @@ void tst_long_curve::shapes_and_ranges_data()
     QTest::addColumn<qsizetype>("shape");
     QTest::addColumn<qsizetype>("size");
     for (qsizetype shape = 0; shape < shapes().size(); ++shape) {
-        for (const qsizetype size : {1, 2, 3, 700, 1500, 3000, 10000, 60000, 300000}) {
+        for (const qsizetype size : {1, 2, 3, 700, 1500, 3200, 10000, 60000, 300000}) {
             if (size <= longest_curve())
                 QTest::addRow("%s, %lld", shapes()[shape].first, static_cast<long long>(size))
                     << shape << size;
@@ -134,6 +135,22 @@ void tst_long_curve::left_edges()
     for (int i = 0; i < 60; ++i) {
         const double left = 200.0 + 3.0137 * i;
         compare(shown, {{left, left + 700.0}, {0.3, 0.6}});
+    }
+}
+
+// The line comes in from far outside; the first point in sight stands at each place of a block.
+void tst_long_curve::left_edges_in_a_gap()
+{
+    const series plain = made_of(noise(4, 1), 5'000);
+    const double length = plain.x.last() - plain.x.first();
+    for (qsizetype i = 0; i < 64; ++i) {
+        const qsizetype first = 200 + 37 * i;
+        series shown = plain;
+        const double edge = shown.x[first - 1] + length * (0.2 + 0.01 * static_cast<double>(i));
+        for (qsizetype point = first; point < shown.x.size(); ++point)
+            shown.x[point] += length;
+        compare(shown, {{edge, edge + length}, {0.3, 0.6}});
+        compare(shown, {{edge, edge + length}, {-0.5, 1.5}});
     }
 }
 
