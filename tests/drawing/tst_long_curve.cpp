@@ -33,6 +33,7 @@ private slots:
     void irregular();
     void left_edges();
     void left_edges_in_a_gap();
+    void missing_columns();
     void pens();
     void bounding_rectangle_data();
     void bounding_rectangle();
@@ -151,6 +152,21 @@ void tst_long_curve::left_edges_in_a_gap()
             shown.x[point] += length;
         compare(shown, {{edge, edge + length}, {0.3, 0.6}});
         compare(shown, {{edge, edge + length}, {-0.5, 1.5}});
+    }
+}
+
+// Whether a piece's end shows depends on the bars beside, which may be a column farther away.
+void tst_long_curve::missing_columns()
+{
+    for (const int missing : {2, 3, 5}) { // each so many columns
+        series shown = made_of(noise(4, 1), 8'000);
+        for (qsizetype i = 0; i < shown.x.size(); ++i) {
+            const qsizetype column = i / 10;
+            shown.x[i] = static_cast<double>(column + column / (missing - 1));
+        }
+        const range columns{0.0, static_cast<double>(canvas.width() - 1)};
+        compare(shown, {columns, {-0.2, 1.2}});
+        compare(shown, {columns, {0.2, 0.9}});
     }
 }
 
