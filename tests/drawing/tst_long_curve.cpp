@@ -1,3 +1,5 @@
+#include "plot/drawing/dense_line.h"
+#include "plot/drawing/sampled_line.h"
 #include "tests/drawing/curve_pictures.h"
 
 #include <QImage>
@@ -32,12 +34,14 @@ private slots:
     void irregular_data();
     void irregular();
     void left_edges();
-    void left_edges_in_a_gap();
+    void edges_in_a_gap();
+    void ends_of_bars_in_another_block();
     void missing_columns();
     void pens();
     void bounding_rectangle_data();
     void bounding_rectangle();
     void very_tall_picture();
+    void brush_of_the_painter();
 };
 
 void tst_long_curve::shapes_and_ranges_data()
@@ -139,20 +143,37 @@ void tst_long_curve::left_edges()
     }
 }
 
-// The line comes in from far outside; the first point in sight stands at each place of a block.
-void tst_long_curve::left_edges_in_a_gap()
+// The line comes in from far outside, or goes there; the point that is the nearest to the edge
+// stands at each place of a block.
+void tst_long_curve::edges_in_a_gap()
 {
     const series plain = made_of(noise(4, 1), 5'000);
     const double length = plain.x.last() - plain.x.first();
     for (qsizetype i = 0; i < 64; ++i) {
-        const qsizetype first = 200 + 37 * i;
-        series shown = plain;
-        const double edge = shown.x[first - 1] + length * (0.2 + 0.01 * static_cast<double>(i));
-        for (qsizetype point = first; point < shown.x.size(); ++point)
-            shown.x[point] += length;
-        compare(shown, {{edge, edge + length}, {0.3, 0.6}});
-        compare(shown, {{edge, edge + length}, {-0.5, 1.5}});
+        for (const bool on_the_left : {true, false}) {
+            const qsizetype gap = on_the_left ? 1 + 37 * i : plain.x.size() - 1 - 37 * i;
+            series shown = plain;
+            for (qsizetype point = gap; point < shown.x.size(); ++point)
+                shown.x[point] += length;
+            const double edge = shown.x[gap - 1] + length * (0.1 + 0.005 * static_cast<double>(i));
+            const range seen =
+                on_the_left ? range{edge, edge + length} : range{edge - length, edge};
+            compare(shown, {seen, {0.3, 0.6}});
+            compare(shown, {seen, {-0.5, 1.5}});
+        }
     }
+}
+
+// The last point of each bar is the first one of a block, and the highest or the lowest of the bar.
+void tst_long_curve::ends_of_bars_in_another_block()
+{
+    series shown = made_of(noise(5, 1), 64 * canvas.width());
+    for (qsizetype i = 0; i < shown.x.size(); ++i) {
+        shown.x[i] = static_cast<double>((i + 63) / 64);
+        if (i % 64 == 0)
+            shown.y[i] = i % 3 == 0 ? 1.5 + shown.y[i] : -0.5 - shown.y[i];
+    }
+    compare(shown, {{0.0, canvas.width() - 1.0}, {-2.0, 3.0}});
 }
 
 // Whether a piece's end shows depends on the bars beside, which may be a column farther away.
@@ -175,12 +196,15 @@ void tst_long_curve::pens()
     const qsizetype size = std::min<qsizetype>(longest_curve(), 20'000);
     const series shown = made_of(noise(6, 3), size);
     const series steps = made_of(shapes()[1].second, size);
+    const sample_function one = noise(6, 1);
+    const series rows = made_of([&](qsizetype i) { return std::floor(8.0 * one(i)); }, 7'000);
     for (const double width : {0.0, 1.0, 1.5, 2.0, 2.5, 3.0, 5.0, 20.0}) {
         for (const auto cap : {Qt::SquareCap, Qt::FlatCap, Qt::RoundCap}) {
             for (const auto join : {Qt::BevelJoin, Qt::MiterJoin, Qt::RoundJoin}) {
                 const QPen pen(Qt::blue, width, Qt::SolidLine, cap, join);
                 compare(shown, {range_of(shown.x), range_of(shown.y), pen});
                 compare(steps, {range_of(steps.x), range_of(steps.y), pen});
+                compare(rows, {range_of(rows.x), {-100.0, canvas.height() - 101.0}, pen});
             }
         }
     }
@@ -229,6 +253,22 @@ void tst_long_curve::very_tall_picture()
                    scale(range_of(shown.y), 31'999.0, 0.0), QRectF(image.rect()));
     }
     QCOMPARE(images[1], images[0]);
+}
+
+void tst_long_curve::brush_of_the_painter()
+{
+    const series shown = made_of(walk(9), 2'000);
+    sampled_line line(shown.x, shown.y);
+    line.set_x_scale(scale(range_of(shown.x), 0.0, 99.0));
+    line.set_y_scale(scale(range_of(shown.y), 99.0, 0.0), {0, 99});
+    QImage image(100, 100, QImage::Format_RGB32);
+    image.fill(Qt::white);
+    QPainter painter(&image);
+    painter.setPen(QPen(Qt::blue, 2.0));
+    painter.setBrush(Qt::red);
+    dense_line(line, QRectF(image.rect()), 2.0, 0, line.size()).draw(painter);
+    QCOMPARE(painter.brush(), QBrush(Qt::red));
+    QCOMPARE(painter.pen(), QPen(Qt::blue, 2.0));
 }
 
 QTEST_MAIN(tst_long_curve)
