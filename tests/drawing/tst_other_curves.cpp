@@ -7,6 +7,8 @@
 #include <QTest>
 
 #include <qwt_painter.h>
+#include <qwt_plot.h>
+#include <qwt_point_data.h>
 #include <qwt_scale_map.h>
 
 #include <cmath>
@@ -86,6 +88,20 @@ void draw_unsplit(const QwtPlotCurve& curve, QPainter& painter)
     QwtPainter::setPolylineSplitting(true);
 }
 
+void draw_clipped(const QwtPlotCurve& curve, QPainter& painter)
+{
+    painter.setClipRect(QRect(120, 90, 300, 160));
+    draw_all(curve, painter);
+}
+
+drawing drawn_moved(const QPointF& by)
+{
+    return [=](const QwtPlotCurve& curve, QPainter& painter) {
+        painter.translate(by);
+        draw_all(curve, painter);
+    };
+}
+
 drawing part_drawn(int from, int to)
 {
     return [=](const QwtPlotCurve& curve, QPainter& painter) {
@@ -102,13 +118,8 @@ drawing drawn_in(const QRectF& rectangle)
     };
 }
 
-template <class curve_class>
-QImage picture(const curve_change& change, const drawing& draw)
+QImage picture(const QwtPlotCurve& curve, const drawing& draw)
 {
-    curve_class curve;
-    curve.setSamples(times(), waves());
-    curve.setPen(Qt::blue, 2.0, Qt::SolidLine);
-    change(curve);
     QImage image(canvas, QImage::Format_RGB32);
     image.fill(Qt::white);
     QPainter painter(&image);
@@ -117,7 +128,56 @@ QImage picture(const curve_change& change, const drawing& draw)
     return image;
 }
 
+// Drawn before it is changed, too: nothing of what it was may be left.
+template <class curve_class>
+QImage picture(const curve_change& change, const drawing& draw)
+{
+    curve_class curve;
+    curve.setSamples(times(), waves());
+    curve.setPen(Qt::blue, 2.0, Qt::SolidLine);
+    picture(curve, draw_all);
+    change(curve);
+    return picture(curve, draw);
+}
+
 void leave_alone(QwtPlotCurve& /*curve*/) {}
+
+// Counts the samples that are asked for one by one, as Qwt does.
+class counted_samples : public QwtPointArrayData<double>
+{
+public:
+    using QwtPointArrayData<double>::QwtPointArrayData;
+
+    QPointF sample(std::size_t index) const override
+    {
+        ++count;
+        return QwtPointArrayData<double>::sample(index);
+    }
+
+    mutable int count = 0;
+};
+
+// How many samples Qwt is asked to draw.
+int left_to_qwt(const QPen& pen, const drawing& draw)
+{
+    auto* const samples = new counted_samples(times(), waves()); // the curve's own
+    long_curve curve;
+    curve.setSamples(samples);
+    curve.setPen(pen);
+    curve.boundingRect();
+    samples->count = 0;
+    picture(curve, draw);
+    return samples->count;
+}
+
+// Of the points, which are ten a column.
+drawing drawn_between(double first, double last)
+{
+    return [=](const QwtPlotCurve& curve, QPainter& painter) {
+        curve.draw(&painter, scale({first, last}, 0.0, canvas.width() - 1), y_scale(),
+                   QRectF(QPointF(), canvas));
+    };
+}
 
 } // namespace
 
@@ -130,7 +190,12 @@ private slots:
     void curve_like_qwt();
     void drawing_like_qwt_data();
     void drawing_like_qwt();
+    void many_points_are_not_left_to_qwt_data();
+    void many_points_are_not_left_to_qwt();
+    void few_points_are_left_to_qwt();
+    void value_beyond_the_edge_that_is_no_number();
     void bounding_rectangle_of_other_samples();
+    void plot_hears_of_other_samples();
 };
 
 Q_DECLARE_METATYPE(curve_change)
@@ -174,6 +239,10 @@ void tst_other_curves::drawing_like_qwt_data()
     const auto row = [](const char* name, const drawing& draw) { QTest::newRow(name) << draw; };
     row("plain", draw_all);
     row("unclipped", draw_unclipped);
+    row("clipped to a part", draw_clipped);
+    row("moved by a pixel", drawn_moved({1.0, 1.0}));
+    row("moved by half a pixel to the right", drawn_moved({0.5, 0.0}));
+    row("moved by half a pixel down", drawn_moved({0.0, 0.5}));
     row("antialiased", draw_antialiased);
     row("recorded", draw_recorded);
     row("unaligned", draw_unaligned);
@@ -191,6 +260,48 @@ void tst_other_curves::drawing_like_qwt()
     QCOMPARE(picture<long_curve>(leave_alone, draw), picture<QwtPlotCurve>(leave_alone, draw));
 }
 
+void tst_other_curves::many_points_are_not_left_to_qwt_data()
+{
+    QTest::addColumn<double>("width");
+    QTest::addColumn<drawing>("draw");
+    QTest::newRow("plain") << 2.0 << drawing(draw_all);
+    QTest::newRow("thinner") << 1.5 << drawing(draw_all);
+    QTest::newRow("the widest") << 2.5 << drawing(draw_all);
+    QTest::newRow("moved by whole pixels") << 2.0 << drawn_moved({3.0, 7.0});
+    QTest::newRow("five points for two columns") << 2.0 << drawn_between(0, points / 4 - 1);
+}
+
+void tst_other_curves::many_points_are_not_left_to_qwt()
+{
+    QFETCH(double, width);
+    QFETCH(drawing, draw);
+    QCOMPARE(left_to_qwt(QPen(Qt::blue, width), draw), 0);
+}
+
+// One point a column, and as far as the pen reaches on each side; of those behind, the nearest.
+void tst_other_curves::few_points_are_left_to_qwt()
+{
+    const QPen pen(Qt::blue, 2.0);
+    const int asked_for_twice = left_to_qwt(pen, part_drawn(0, 1)) - 2;
+    const int in_reach = 2 + canvas.width() + 1 + 2;
+    QCOMPARE(left_to_qwt(pen, drawn_between(1000.0, 1000.0 + canvas.width() - 1)),
+             1 + in_reach + 1 + asked_for_twice);
+}
+
+// The point that the line goes to out of sight starts a block of its own.
+void tst_other_curves::value_beyond_the_edge_that_is_no_number()
+{
+    QList<double> x = times();
+    QList<double> y = waves();
+    const qsizetype gap = 64 * 100;
+    for (qsizetype i = gap; i < points; ++i)
+        x[i] += points;
+    y[gap] = std::nan("");
+    const auto make = [&](QwtPlotCurve& curve) { curve.setSamples(x, y); };
+    const drawing draw = drawn_between(0.0, 1.05 * static_cast<double>(gap));
+    QCOMPARE(picture<long_curve>(make, draw), picture<QwtPlotCurve>(make, draw));
+}
+
 void tst_other_curves::bounding_rectangle_of_other_samples()
 {
     QwtPlotCurve expected;
@@ -200,6 +311,16 @@ void tst_other_curves::bounding_rectangle_of_other_samples()
     expected.setSamples(samples);
     curve.setSamples(samples);
     QCOMPARE(curve.boundingRect(), expected.boundingRect());
+}
+
+void tst_other_curves::plot_hears_of_other_samples()
+{
+    QwtPlot plot;
+    plot.setAutoReplot(true);
+    auto* const curve = new long_curve; // the plot's own
+    curve->attach(&plot);
+    curve->setSamples(QList<double>{0.0, 1.0}, QList<double>{0.0, 7000.0});
+    QCOMPARE(plot.axisInterval(QwtPlot::yLeft).maxValue(), 7000.0);
 }
 
 QTEST_MAIN(tst_other_curves)
