@@ -141,6 +141,7 @@ private slots:
     void parts_of_a_series();
     void moved_scales_data();
     void moved_scales();
+    void rows_are_kept_while_the_scale_moves();
     void rows_at_the_half();
     void rows_that_come_near();
     void scales_that_differ_in_one_number();
@@ -229,6 +230,31 @@ void tst_pixel_rows::moved_scales()
             compare(rows, expected, window, first, random.bounded(first, size) + 1);
         }
     }
+}
+
+// The values are others meanwhile: only what is found anew shows that.
+void tst_pixel_rows::rows_are_kept_while_the_scale_moves()
+{
+    QRandomGenerator random(11);
+    std::vector<double> values(500);
+    for (double& value : values)
+        value = random.bounded(100) + 0.25;
+    const value_blocks ranges(values);
+    pixel_rows rows(values, ranges);
+    rows.set_scale(scale_from(0.0, 100.0, 100.0, 0.0), {0, 100});
+    rows.find(0, 500);
+    rows_in_order expected = literal_rows(values, scale_from(0.0, 100.0, 100.0, 0.0));
+    std::ranges::fill(values, 7.25);
+    for (const int start : {3, -40, 20, 0}) {
+        rows.set_scale(scale_from(start, start + 100.0, 100.0, 0.0), {0, 100});
+        rows.find(0, 500);
+        for (qsizetype i = 0; i < 500; ++i)
+            QCOMPARE(rows.row(i), expected[static_cast<std::size_t>(i)] + start);
+    }
+    rows.set_scale(scale_from(0.0, 50.0, 100.0, 0.0), {0, 100});
+    rows.find(0, 500);
+    for (qsizetype i = 0; i < 500; ++i)
+        QCOMPARE(rows.row(i), 86); // 85.5, rounded up
 }
 
 // A move by whole rows may round such a value otherwise than before.
