@@ -3,6 +3,7 @@
 #include <QRandomGenerator>
 #include <QTest>
 
+#include <algorithm>
 #include <cmath>
 
 namespace {
@@ -143,8 +144,11 @@ private slots:
     void moved_scales();
     void rows_are_kept_while_the_scale_moves();
     void rows_at_the_half();
+    void level_blocks_at_the_half_data();
+    void level_blocks_at_the_half();
     void rows_that_come_near();
     void scales_that_differ_in_one_number();
+    void windows_of_a_moved_scale();
 };
 
 void tst_pixel_rows::window_of_rows()
@@ -275,6 +279,32 @@ void tst_pixel_rows::rows_at_the_half()
     }
 }
 
+// Each block has two values that are nearly the same: one at the half of a row, the other farther
+// away than an error of rounding.
+void tst_pixel_rows::level_blocks_at_the_half_data()
+{
+    QTest::addColumn<double>("other");
+    QTest::newRow("one value") << 0.0;
+    QTest::newRow("another above") << 0.003;
+    QTest::newRow("another below") << -0.003;
+}
+
+void tst_pixel_rows::level_blocks_at_the_half()
+{
+    QFETCH(double, other);
+    std::vector<double> values(640);
+    for (std::size_t i = 0; i < values.size(); ++i)
+        values[i] = 0.1 * static_cast<double>(i / 64 * 5 % 7) + (i % 2 == 0 ? 0.0 : other);
+    const value_blocks ranges(values);
+    pixel_rows rows(values, ranges);
+    for (int i = 0; i < 400; ++i) {
+        const double start = 0.1 * (i * 37 % 91) / 3.0;
+        const QwtScaleMap scale = scale_from(start, start + 10.0, 2.5, -297.5);
+        rows.set_scale(scale, {-300, 300});
+        compare(rows, literal_rows(values, scale), {-300, 300}, 0, 640);
+    }
+}
+
 // What was too far away to be told from other rows may come into sight, if the scale moves far.
 void tst_pixel_rows::rows_that_come_near()
 {
@@ -316,6 +346,25 @@ void tst_pixel_rows::scales_that_differ_in_one_number()
         {scale_from(6.0, 90.0, 95.0, 7.0), {20, 70}},
     };
     for (const auto& [scale, window] : steps) {
+        rows.set_scale(scale, window);
+        compare(rows, literal_rows(values, scale), window, 0, 300);
+    }
+}
+
+// The window that is kept in mind is that of the rows before they moved.
+void tst_pixel_rows::windows_of_a_moved_scale()
+{
+    QRandomGenerator random(12);
+    std::vector<double> values(300);
+    for (double& value : values)
+        value = random.bounded(100);
+    const value_blocks ranges(values);
+    pixel_rows rows(values, ranges);
+    for (const auto& [start, window] :
+         {std::pair{0.0, row_window{10, 90}}, std::pair{3.0, row_window{10, 90}},
+          std::pair{3.0, row_window{4, 90}}, std::pair{3.0, row_window{4, 84}},
+          std::pair{3.0, row_window{30, 60}}}) {
+        const QwtScaleMap scale = scale_from(start, start + 100.0, 100.0, 0.0);
         rows.set_scale(scale, window);
         compare(rows, literal_rows(values, scale), window, 0, 300);
     }

@@ -38,7 +38,7 @@ TABLE = [
     ("plot/reading/result_file", "tst_store tst_wel_reader", READING),
     ("plot/reading/", "tst_wel_reader", READING),
     ("plot/drawing/curve_table", "tst_curves", DRAWING),
-    ("plot/drawing/pixel_rows", "tst_pixel_rows tst_long_curve", DRAWING),
+    ("plot/drawing/pixel_rows", "tst_pixel_rows tst_pixel_rows_memory tst_long_curve", DRAWING),
     ("plot/drawing/row_window", "tst_pixel_rows tst_long_curve", DRAWING),
     ("plot/drawing/value_blocks", "tst_sampled_line tst_long_curve", DRAWING),
     ("plot/drawing/sampled_line", "tst_sampled_line tst_long_curve", DRAWING),
