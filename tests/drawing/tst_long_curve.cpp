@@ -167,9 +167,10 @@ void tst_long_curve::edges_in_a_gap()
 // The last point of each bar is the first one of a block, and the highest or the lowest of the bar.
 void tst_long_curve::ends_of_bars_in_another_block()
 {
-    series shown = made_of(noise(5, 1), 64 * canvas.width());
+    series shown = made_of(noise(5, 1), qsizetype(64) * canvas.width());
     for (qsizetype i = 0; i < shown.x.size(); ++i) {
-        shown.x[i] = static_cast<double>((i + 63) / 64);
+        const qsizetype column = (i + 63) / 64;
+        shown.x[i] = static_cast<double>(column);
         if (i % 64 == 0)
             shown.y[i] = i % 3 == 0 ? 1.5 + shown.y[i] : -0.5 - shown.y[i];
     }
@@ -182,8 +183,9 @@ void tst_long_curve::missing_columns()
     for (const int missing : {2, 3, 5}) { // each so many columns
         series shown = made_of(noise(4, 1), 8'000);
         for (qsizetype i = 0; i < shown.x.size(); ++i) {
-            const qsizetype column = i / 10;
-            shown.x[i] = static_cast<double>(column + column / (missing - 1));
+            const qsizetype bar = i / 10;
+            const qsizetype column = bar + bar / (missing - 1);
+            shown.x[i] = static_cast<double>(column);
         }
         const range columns{0.0, static_cast<double>(canvas.width() - 1)};
         compare(shown, {columns, {-0.2, 1.2}});
