@@ -13,6 +13,7 @@ std::size_t largest_allocation = 0; // in bytes
 } // namespace
 
 // What the standard library's containers hold.
+// NOLINTBEGIN(cppcoreguidelines-no-malloc): these are what everything else is made of.
 void* operator new(std::size_t size)
 {
     largest_allocation = std::max(largest_allocation, size);
@@ -30,6 +31,7 @@ void operator delete(void* memory, std::size_t) noexcept
 {
     std::free(memory);
 }
+// NOLINTEND(cppcoreguidelines-no-malloc)
 
 class tst_pixel_rows_memory : public QObject
 {
@@ -42,7 +44,7 @@ private slots:
 // A zoom of the value axis takes no more memory than the one before.
 void tst_pixel_rows_memory::scales_gone_by()
 {
-    constexpr int count = 64'000;
+    constexpr std::size_t count = 64'000;
     std::vector<double> values(count);
     for (std::size_t i = 0; i < values.size(); ++i)
         values[i] = static_cast<double>(i % 100);
@@ -54,7 +56,7 @@ void tst_pixel_rows_memory::scales_gone_by()
         scale.setScaleInterval(0.0, 100.0 + i);
         scale.setPaintInterval(100.0, 0.0);
         rows.set_scale(scale, {0, 100});
-        rows.find(0, count);
+        rows.find(0, static_cast<qsizetype>(count));
     }
     QVERIFY(largest_allocation >= count * sizeof(qint16));
     QVERIFY(largest_allocation < 4 * count * sizeof(qint16));

@@ -241,7 +241,7 @@ void tst_text_lines::pair_of_surrogates_across_blocks()
 // After 256 MB without an end, and the block that was read to look for one, there is no line.
 void tst_text_lines::line_without_end()
 {
-    const qint64 longest = 256 * 1024 * 1024;
+    const qint64 longest = 256 * qint64(1024 * 1024);
     endless_line device;
     text_lines lines(device);
     QByteArrayView line;
