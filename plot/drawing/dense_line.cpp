@@ -20,6 +20,12 @@ bool ends_a_piece(qsizetype vertex)
     return vertex % edges_of_a_piece == 0;
 }
 
+// The piece of the edge that ends at a vertex.
+qsizetype piece_before(qsizetype vertex)
+{
+    return (vertex - 1) / edges_of_a_piece;
+}
+
 // The pixels that a rectangle sets when Qt draws its area: those with their centres inside, on its
 // right or on its lower edge.
 QRect pixels_within(double left, double right, double top, double bottom)
@@ -102,9 +108,8 @@ void dense_line::find_caps()
         if (each.top == each.bottom)
             continue;
         const row_range hidden = rows_beside(i);
-        const double cap = pen_width / 2.0;
-        each.cap_above = hidden.top > each.top - cap && has_cap_in(each, each.top);
-        each.cap_below = hidden.bottom < each.bottom + cap && has_cap_in(each, each.bottom);
+        each.cap_above = hidden.top > each.top - cap() && has_cap_in(each, each.top);
+        each.cap_below = hidden.bottom < each.bottom + cap() && has_cap_in(each, each.bottom);
     }
 }
 
@@ -165,14 +170,13 @@ bool dense_line::has_cap_among(qsizetype first_point, qsizetype end_point, qsize
 void dense_line::draw_bars(QPainter& painter) const
 {
     const QPen pen = painter.pen();
-    const double cap = pen_width / 2.0;
     QList<QRect> rectangles;
     for (const bar& each : bars) {
-        const double from = std::max<double>(each.top, clip.top()) - (each.cap_above ? cap : 0.0);
+        const double from = std::max<double>(each.top, clip.top()) - (each.cap_above ? cap() : 0.0);
         const double to =
-            std::min<double>(each.bottom, clip.bottom()) + (each.cap_below ? cap : 0.0);
+            std::min<double>(each.bottom, clip.bottom()) + (each.cap_below ? cap() : 0.0);
         if (from < to)
-            rectangles.append(pixels_within(each.column - cap, each.column + cap, from, to));
+            rectangles.append(pixels_within(each.column - cap(), each.column + cap(), from, to));
     }
     const QBrush brush = painter.brush();
     painter.setPen(Qt::NoPen);
@@ -187,7 +191,7 @@ void dense_line::draw_steps(QPainter& painter) const
     std::optional<stretch> shown;
     const QList<stretch> steps = shown_steps();
     for (const stretch& step : steps) {
-        if (shown && continues(*shown, step.from)) {
+        if (shown && continues(*shown, step)) {
             shown->to = step.to;
             continue;
         }
@@ -250,15 +254,16 @@ bool dense_line::hides_step(const bar& left, const bar& right, int reach) const
 }
 
 // Whether a step belongs to the piece of a stretch and is joined with it within the canvas:
-// outside, there may be any number of points between two vertices.
-bool dense_line::continues(const stretch& shown, const place& step) const
+// outside, there may be any number of points between two vertices. A step that comes in from there
+// may begin in the piece before; what can be seen of it is its last edge.
+bool dense_line::continues(const stretch& shown, const stretch& step) const
 {
-    if (shown.from.vertex / edges_of_a_piece != step.vertex / edges_of_a_piece)
+    if (piece_before(shown.to.vertex) != piece_before(step.to.vertex))
         return false;
     std::optional<place> each = shown.to;
-    while (each && each->vertex < step.vertex && line.window().has(rows.row(each->point)))
+    while (each && each->vertex < step.from.vertex && line.window().has(rows.row(each->point)))
         each = next(*each);
-    return each && each->bar == step.bar && line.window().has(rows.row(each->point));
+    return each && each->bar == step.from.bar && line.window().has(rows.row(each->point));
 }
 
 void dense_line::draw_stretch(const stretch& shown, QPainter& painter) const

@@ -73,6 +73,7 @@ private:
     bool has_cap_in(const bar& each, int row) const;
     bool has_cap_among(qsizetype first_point, qsizetype end_point, qsizetype vertex, int row) const;
 
+    double cap() const { return pen_width / 2.0; } // how far one reaches
     void draw_bars(QPainter& painter) const;
     void draw_steps(QPainter& painter) const;
     QList<stretch> shown_steps() const;
@@ -80,7 +81,7 @@ private:
     place end_of(qsizetype bar) const;
     bool is_cut_off(qsizetype point, qsizetype next_point) const;
     bool hides_step(const bar& left, const bar& right, int reach) const;
-    bool continues(const stretch& shown, const place& step) const;
+    bool continues(const stretch& shown, const stretch& step) const;
     void draw_stretch(const stretch& shown, QPainter& painter) const;
     void add_lead(place from, neighbour step, QPolygonF& vertices) const;
     std::optional<place> next(const place& from) const;

@@ -30,7 +30,6 @@ struct view
     range x;
     range y;
     QPen pen{Qt::blue, 2.0};
-    int allowed = 0; ///< how many pixels may differ
 };
 
 using sample_function = std::function<double(qsizetype)>;
@@ -65,10 +64,8 @@ QImage picture_of(const series& shown, const view& seen)
 
 /// Of pictures of one size.
 int different_pixels(const QImage& a, const QImage& b);
-/// Whether every column reaches as high and as low, but for `cap` rows.
-bool same_extremes(const QImage& a, const QImage& b, int cap = 1);
 /// Compares a picture with the one that Qwt draws of all points; fails the test that runs if they
-/// are not the same, but for the pixels that may differ.
+/// are not the same.
 void compare(const QImage& actual, const series& shown, const view& seen, const QString& what = {});
 /// The same for a new curve.
 void compare(const series& shown, const view& seen);

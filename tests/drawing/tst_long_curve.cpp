@@ -4,6 +4,7 @@
 
 #include <QImage>
 #include <QPainter>
+#include <QRandomGenerator>
 #include <QTest>
 
 #include <qwt_scale_map.h>
@@ -36,6 +37,7 @@ private slots:
     void left_edges();
     void edges_in_a_gap();
     void ends_of_bars_in_another_block();
+    void ends_at_an_edge();
     void missing_columns();
     void pens();
     void bounding_rectangle_data();
@@ -167,14 +169,39 @@ void tst_long_curve::edges_in_a_gap()
 // The last point of each bar is the first one of a block, and the highest or the lowest of the bar.
 void tst_long_curve::ends_of_bars_in_another_block()
 {
-    series shown = made_of(noise(5, 1), qsizetype(64) * canvas.width());
+    const qsizetype last_column = canvas.width() - 1;
+    series shown = made_of(noise(5, 1), 64 * last_column + 1);
     for (qsizetype i = 0; i < shown.x.size(); ++i) {
         const qsizetype column = (i + 63) / 64;
         shown.x[i] = static_cast<double>(column);
         if (i % 64 == 0)
             shown.y[i] = i % 3 == 0 ? 1.5 + shown.y[i] : -0.5 - shown.y[i];
     }
-    compare(shown, {{0.0, canvas.width() - 1.0}, {-2.0, 3.0}});
+    const range columns{0.0, static_cast<double>(last_column)};
+    compare(shown, {columns, {-2.0, 3.0}});
+    shown.y.last() = -0.7;
+    compare(shown, {columns, {-2.0, 3.0}});
+    shown.y.last() = 1.7;
+    compare(shown, {columns, {-2.0, 3.0}});
+}
+
+// The line starts or ends a few rows beside an edge, with low bars: how it is joined there with
+// what lies behind the edge shows by the width of the pen.
+void tst_long_curve::ends_at_an_edge()
+{
+    constexpr qsizetype points_of_a_column = 4;
+    QRandomGenerator random(13);
+    const series shown = made_of(walk(14), 20'000);
+    const double length = shown.x[points_of_a_column * (canvas.width() - 1)];
+    const double rows = canvas.height() - 1.0;
+    for (int i = 0; i < 400; ++i) {
+        const qsizetype first = i % 4 == 0 ? i / 4 % 5 : random.bounded(16'000);
+        const double from = shown.x[first] - random.bounded(shown.x[1]);
+        const qsizetype end = first + points_of_a_column * canvas.width();
+        const double beside = shown.y[i % 2 == 0 ? first : end] + random.bounded(7) - 3.0;
+        const double low = i % 3 == 0 ? beside : beside - rows;
+        compare(shown, {{from, from + length}, {low, low + rows}});
+    }
 }
 
 // Whether a piece's end shows depends on the bars beside, which may be a column farther away.

@@ -245,20 +245,20 @@ void tst_pixel_rows::rows_are_kept_while_the_scale_moves()
         value = random.bounded(100) + 0.25;
     const value_blocks ranges(values);
     pixel_rows rows(values, ranges);
-    rows.set_scale(scale_from(0.0, 100.0, 100.0, 0.0), {0, 100});
+    rows.set_scale(scale_from(0.0, 100.0, 110.0, 10.0), {0, 110});
     rows.find(0, 500);
-    rows_in_order expected = literal_rows(values, scale_from(0.0, 100.0, 100.0, 0.0));
+    const rows_in_order expected = literal_rows(values, scale_from(0.0, 100.0, 110.0, 10.0));
     std::ranges::fill(values, 7.25);
     for (const int start : {3, -40, 20, 0}) {
-        rows.set_scale(scale_from(start, start + 100.0, 100.0, 0.0), {0, 100});
+        rows.set_scale(scale_from(start, start + 100.0, 110.0, 10.0), {0, 110});
         rows.find(0, 500);
         for (qsizetype i = 0; i < 500; ++i)
             QCOMPARE(rows.row(i), expected[static_cast<std::size_t>(i)] + start);
     }
-    rows.set_scale(scale_from(0.0, 50.0, 100.0, 0.0), {0, 100});
+    rows.set_scale(scale_from(0.0, 50.0, 110.0, 10.0), {0, 110});
     rows.find(0, 500);
     for (qsizetype i = 0; i < 500; ++i)
-        QCOMPARE(rows.row(i), 86); // 85.5, rounded up
+        QCOMPARE(rows.row(i), 96); // 95.5, rounded up
 }
 
 // A move by whole rows may round such a value otherwise than before.

@@ -9,6 +9,7 @@ DRAWING = (
     "tst_curves tst_plot_pair tst_axis_scales tst_store tst_lifetimes tst_plot_commands "
     "tst_axis_commands tst_characteristic_curves"
 )
+PIXELS = "tst_long_curve tst_other_curves tst_long_curve_again"
 DIALOGS = "tst_axis_dialog tst_rename_dialog tst_axis_commands tst_rename_command"
 WINDOW = (
     "tst_layout tst_file_list tst_plot_commands tst_fixed_ranges tst_characteristic_curves "
@@ -38,13 +39,13 @@ TABLE = [
     ("plot/reading/result_file", "tst_store tst_wel_reader", READING),
     ("plot/reading/", "tst_wel_reader", READING),
     ("plot/drawing/curve_table", "tst_curves", DRAWING),
-    ("plot/drawing/pixel_rows", "tst_pixel_rows tst_pixel_rows_memory tst_long_curve", DRAWING),
-    ("plot/drawing/row_window", "tst_pixel_rows tst_long_curve", DRAWING),
-    ("plot/drawing/value_blocks", "tst_sampled_line tst_long_curve", DRAWING),
-    ("plot/drawing/sampled_line", "tst_sampled_line tst_long_curve", DRAWING),
-    ("plot/drawing/pixel_map", "tst_sampled_line tst_long_curve", DRAWING),
+    ("plot/drawing/pixel_rows", "tst_pixel_rows tst_pixel_rows_memory " + PIXELS, DRAWING),
+    ("plot/drawing/row_window", "tst_pixel_rows " + PIXELS, DRAWING),
+    ("plot/drawing/value_blocks", "tst_sampled_line " + PIXELS, DRAWING),
+    ("plot/drawing/sampled_line", "tst_sampled_line " + PIXELS, DRAWING),
+    ("plot/drawing/pixel_map", "tst_sampled_line " + PIXELS, DRAWING),
     ("plot/drawing/owned_item", "tst_lifetimes", DRAWING),
-    ("plot/drawing/", "tst_other_curves tst_long_curve", DRAWING),
+    ("plot/drawing/", PIXELS, DRAWING),
     ("plot/korimo_plot_reading", "tst_store tst_wel_reader tst_out_of_memory", READING),
     ("plot/korimo_plot_axes", "tst_axis_scales", DRAWING),
     ("plot/korimo_plot_finish", "tst_plot_pair", DRAWING),
