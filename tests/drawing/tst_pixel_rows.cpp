@@ -242,23 +242,27 @@ void tst_pixel_rows::rows_are_kept_while_the_scale_moves()
     QRandomGenerator random(11);
     std::vector<double> values(500);
     for (double& value : values)
-        value = random.bounded(100) + 0.25;
+        value = random.bounded(100) + 0.2;
     const value_blocks ranges(values);
     pixel_rows rows(values, ranges);
-    rows.set_scale(scale_from(0.0, 100.0, 110.0, 10.0), {0, 110});
+    const auto scale_at = [](double start) {
+        return scale_from(start, start + 100.0, 210.0, 10.0); // two rows for one
+    };
+    const row_window window{0, 210};
+    rows.set_scale(scale_at(0.0), window);
     rows.find(0, 500);
-    const rows_in_order expected = literal_rows(values, scale_from(0.0, 100.0, 110.0, 10.0));
-    std::ranges::fill(values, 7.25);
+    const rows_in_order expected = literal_rows(values, scale_at(0.0));
+    std::ranges::fill(values, 7.2);
     for (const int start : {3, -40, 20, 0}) {
-        rows.set_scale(scale_from(start, start + 100.0, 110.0, 10.0), {0, 110});
+        rows.set_scale(scale_at(start), window);
         rows.find(0, 500);
         for (qsizetype i = 0; i < 500; ++i)
-            QCOMPARE(rows.row(i), expected[static_cast<std::size_t>(i)] + start);
+            QCOMPARE(rows.row(i), expected[static_cast<std::size_t>(i)] + 2 * start);
     }
-    rows.set_scale(scale_from(0.0, 50.0, 110.0, 10.0), {0, 110});
+    rows.set_scale(scale_from(0.0, 50.0, 210.0, 10.0), window);
     rows.find(0, 500);
     for (qsizetype i = 0; i < 500; ++i)
-        QCOMPARE(rows.row(i), 96); // 95.5, rounded up
+        QCOMPARE(rows.row(i), 181); // 181.2
 }
 
 // A move by whole rows may round such a value otherwise than before.
