@@ -283,7 +283,9 @@ void dense_line::draw_stretch(const stretch& shown, QPainter& painter) const
 }
 
 // Adds what of the same piece comes next behind or before a stretch, as far as the joint at its end
-// shows: what lies deeper in a bar, in a hidden step or outside of the canvas is not needed.
+// shows: what lies deeper in a bar, in a hidden step or outside of the canvas is not needed. Nor
+// are the points on the left and on the right of all bars: where these show, the stretch holds
+// them.
 void dense_line::add_lead(place from, neighbour step, QPolygonF& vertices) const
 {
     const int stub = qCeil(pen_width);
@@ -313,11 +315,7 @@ std::optional<dense_line::place> dense_line::next(const place& from) const
         }
     }
     const qsizetype bar = from.bar + 1;
-    if (bar < bars.size())
-        return start_of(bar);
-    if (bar > bars.size() || end == line.size())
-        return std::nullopt;
-    return place{bars.last().last_vertex + 1, end, bar};
+    return bar < bars.size() ? std::optional(start_of(bar)) : std::nullopt;
 }
 
 std::optional<dense_line::place> dense_line::previous(const place& from) const
@@ -329,7 +327,5 @@ std::optional<dense_line::place> dense_line::previous(const place& from) const
         const int added = window.vertices_of_change(rows.row(*point), rows.row(from.point));
         return place{from.vertex - added, *point, from.bar};
     }
-    if (from.bar > 0)
-        return end_of(from.bar - 1);
-    return first > 0 ? std::optional(place{0, first - 1, -1}) : std::nullopt;
+    return from.bar > 0 ? std::optional(end_of(from.bar - 1)) : std::nullopt;
 }

@@ -41,6 +41,7 @@ class tst_sampled_line : public QObject
 private slots:
     void ranges_of_blocks_data();
     void ranges_of_blocks();
+    void no_values();
     void finite_values();
     void order_of_times();
     void points();
@@ -72,6 +73,15 @@ void tst_sampled_line::ranges_of_blocks()
         QCOMPARE(blocks.all().high, std::ranges::max(values));
         QVERIFY(blocks.all_are_finite());
     }
+}
+
+void tst_sampled_line::no_values()
+{
+    const value_blocks none({});
+    QCOMPARE(none.count(), 0);
+    QVERIFY(none.all_are_finite());
+    QCOMPARE(none.all().low, 0.0);
+    QCOMPARE(none.all().high, 0.0);
 }
 
 void tst_sampled_line::finite_values()
