@@ -1,6 +1,7 @@
 #include "tests/support/rename_driver.h"
 #include "ui/rename_dialog.h"
 
+#include <QHeaderView>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QSignalSpy>
@@ -44,6 +45,7 @@ private slots:
     void form_data();
     void form();
     void texts();
+    void headers();
     void one_row_for_each_name();
     void name_without_end();
     void old_names_can_be_edited_without_effect();
@@ -92,6 +94,25 @@ void tst_rename_dialog::texts()
     QCOMPARE(shown.table->rowCount(), 0);
     QCOMPARE(shown.table->horizontalHeaderItem(0)->text(), "Alter Name");
     QCOMPARE(shown.table->horizontalHeaderItem(1)->text(), "Neuer Name");
+}
+
+// Cells stand below one header and beside the other, which are laid out once they are shown.
+void tst_rename_dialog::headers()
+{
+    for (const bool shown_before : {false, true}) {
+        rename_dialog dialog(nullptr);
+        if (shown_before)
+            dialog.show();
+        dialog.set_old_names(old_names());
+        dialog.show();
+        const auto* const table = dialog.findChild<QTableWidget*>("tableWidget");
+        const QHeaderView& columns = *table->horizontalHeader();
+        const QHeaderView& rows = *table->verticalHeader();
+        QTRY_VERIFY(rows.width() > 5);
+        QVERIFY(columns.height() > 10);
+        QCOMPARE(table->viewport()->geometry().topLeft(),
+                 QPoint(rows.geometry().right() + 1, columns.geometry().bottom() + 1));
+    }
 }
 
 void tst_rename_dialog::one_row_for_each_name()

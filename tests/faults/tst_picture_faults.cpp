@@ -13,11 +13,17 @@
 #include <QPushButton>
 #include <QTest>
 
+#include <fcntl.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
+#include <cerrno>
 #include <csignal>
+#include <cstdio>
 
 namespace {
+
+bool nothing_is_replaced = false;
 
 // A window with a file drawn, and its picture.
 struct drawn_window
@@ -45,6 +51,15 @@ struct drawn_window
 
 } // namespace
 
+// Takes the place of the system's own, which Qt calls.
+extern "C" int rename(const char* from, const char* to) noexcept
+{
+    if (!nothing_is_replaced)
+        return renameat(AT_FDCWD, from, AT_FDCWD, to);
+    errno = EPERM;
+    return -1;
+}
+
 /// A picture that cannot be written, or not to its end. The box names the file all the same.
 class tst_picture_faults : public QObject
 {
@@ -56,8 +71,11 @@ private slots:
     void name_that_leads_elsewhere();
     void no_more_room_data();
     void no_more_room();
+    void earlier_picture_stays_on_a_full_disk_data();
     void earlier_picture_stays_on_a_full_disk();
+    void picture_that_cannot_be_replaced();
     void forbidden_folder();
+    void picture_in_a_forbidden_folder();
     void forbidden_picture();
     void folder_that_is_gone();
     void fifo_without_a_reader();
@@ -123,19 +141,40 @@ void tst_picture_faults::no_more_room()
     QVERIFY(window.saves_again());
 }
 
+void tst_picture_faults::earlier_picture_stays_on_a_full_disk_data()
+{
+    QTest::addColumn<bool>("last_byte_is_missing");
+    QTest::newRow("at once") << false;
+    QTest::newRow("only the last byte is missing") << true;
+}
+
 void tst_picture_faults::earlier_picture_stays_on_a_full_disk()
 {
+    QFETCH(bool, last_byte_is_missing);
     const drawn_window window;
+    QVERIFY(window.save());
+    const auto whole = static_cast<rlim_t>(QFileInfo(window.picture).size());
     write_file(window.picture, "an earlier picture");
     const auto before = std::signal(SIGXFSZ, SIG_IGN);
     {
-        const lower_limit full(RLIMIT_FSIZE, 1000);
+        const lower_limit full(RLIMIT_FSIZE, last_byte_is_missing ? whole - 1 : 1000);
         QVERIFY(window.save());
     }
     std::signal(SIGXFSZ, before);
     QCOMPARE(read_file(window.picture), "an earlier picture");
     QCOMPARE(QDir(window.driver.folder.path()).entryList(QDir::Files | QDir::Hidden).size(), 2);
     QVERIFY(window.saves_again());
+}
+
+// As where it belongs to somebody else, in a folder for all.
+void tst_picture_faults::picture_that_cannot_be_replaced()
+{
+    const drawn_window window;
+    write_file(window.picture, "an earlier picture");
+    nothing_is_replaced = true;
+    QVERIFY(window.save());
+    nothing_is_replaced = false;
+    QCOMPARE(QImage(window.picture, "PNG").size(), QSize(681, 581));
 }
 
 void tst_picture_faults::forbidden_folder()
@@ -150,6 +189,21 @@ void tst_picture_faults::forbidden_folder()
     QVERIFY(!QFile::exists(window.picture));
     QVERIFY(QFile::setPermissions(folder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
     QVERIFY(window.saves_again());
+}
+
+// No file can come into it, but one that is there may be written.
+void tst_picture_faults::picture_in_a_forbidden_folder()
+{
+    const drawn_window window;
+    const QString folder = window.driver.folder.path();
+    write_file(window.picture, "an earlier picture");
+    QVERIFY(QFile::setPermissions(folder, QFile::ReadOwner | QFile::ExeOwner));
+    {
+        const without_override common_user;
+        QVERIFY(window.save());
+    }
+    QVERIFY(QFile::setPermissions(folder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
+    QCOMPARE(QImage(window.picture, "PNG").size(), QSize(681, 581));
 }
 
 void tst_picture_faults::forbidden_picture()

@@ -148,7 +148,9 @@ void tst_file_list::drop_is_a_copy()
 {
     window_driver driver;
     const QList<QUrl> urls{QUrl("file:///a/x.wel")};
-    QCOMPARE(driver.drop(urls, Qt::MoveAction | Qt::CopyAction), Qt::CopyAction);
+    constexpr auto both = Qt::MoveAction | Qt::CopyAction;
+    QCOMPARE(driver.drop(urls, both), Qt::CopyAction);
+    QCOMPARE(driver.drop(urls, both, Qt::ShiftModifier), Qt::CopyAction); // which asks for a move
     QCOMPARE(driver.drop(urls, Qt::MoveAction), Qt::IgnoreAction);
     QCOMPARE(driver.list->count(), 1);
 }
@@ -179,7 +181,9 @@ void tst_file_list::dialog_lists_the_three_kinds()
     QStringList found;
     QString caption;
     QString filter;
+    bool is_of_qt = false;
     with_file_dialog(driver.window, [&](QFileDialog& dialog) {
+        is_of_qt = QApplication::testAttribute(Qt::AA_DontUseNativeDialogs);
         caption = dialog.windowTitle();
         filter = dialog.nameFilters().join("|");
         dialog.setDirectory(driver.folder.path());
@@ -194,6 +198,8 @@ void tst_file_list::dialog_lists_the_three_kinds()
         dialog.reject();
     });
     driver.window.selectFiles();
+    QVERIFY(is_of_qt); // any other dialog takes the patterns for one
+    QVERIFY(!QApplication::testAttribute(Qt::AA_DontUseNativeDialogs));
     QCOMPARE(found.size(), 4);
     QCOMPARE(caption, "Auswahl der Datei zum Plotten");
     QCOMPARE(filter, "*bek;*.wel;*dkl");

@@ -127,6 +127,10 @@ void tst_fixed_ranges::fixed_range_survives_a_change_of_file()
     QCOMPARE(range(driver.upper, QwtAxis::XBottom), upper_x);
     QCOMPARE(range(driver.lower, QwtAxis::YLeft), lower_y);
     QCOMPARE(range(driver.upper, QwtAxis::YLeft), upper_y);
+    for (QwtPlot* const plot : {driver.lower, driver.upper}) {
+        for (const QwtAxisId axis : {QwtAxis::XBottom, QwtAxis::YLeft})
+            QCOMPARE(plot->axisStepSize(axis), 0.0);
+    }
 }
 
 // The new document has no fixed axes of its own; the ranges kept from earlier stay kept.
@@ -158,6 +162,9 @@ void tst_fixed_ranges::fixed_range_is_shown_on_the_empty_plot()
     driver.select(0); // no document: the ranges are forgotten
     driver.press(driver.button);
     QCOMPARE(range(driver.lower, QwtAxis::YLeft), QwtInterval(1, 9));
+    fix(driver, "upper second x");
+    driver.select(1);
+    QCOMPARE(range(driver.upper, QwtAxis::XBottom), fixed());
 }
 
 void tst_fixed_ranges::clear_forgets_fixed_ranges()

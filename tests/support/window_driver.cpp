@@ -67,27 +67,29 @@ void window_driver::press(QPushButton* which) const
     QTest::mouseClick(which, Qt::LeftButton);
 }
 
-bool window_driver::drag(const QMimeData& data, Qt::DropActions offered)
+bool window_driver::drag(const QMimeData& data, Qt::DropActions offered, Qt::KeyboardModifiers held)
 {
-    QDragEnterEvent event(drop_place, offered, &data, Qt::LeftButton, Qt::NoModifier);
+    QDragEnterEvent event(drop_place, offered, &data, Qt::LeftButton, held);
     event.ignore();
     QCoreApplication::sendEvent(&window, &event);
     return event.isAccepted();
 }
 
-Qt::DropAction window_driver::drop(const QMimeData& data, Qt::DropActions offered)
+Qt::DropAction window_driver::drop(const QMimeData& data, Qt::DropActions offered,
+                                   Qt::KeyboardModifiers held)
 {
-    drag(data, offered);
-    QDropEvent event(drop_place, offered, &data, Qt::LeftButton, Qt::NoModifier);
+    drag(data, offered, held);
+    QDropEvent event(drop_place, offered, &data, Qt::LeftButton, held);
     QCoreApplication::sendEvent(&window, &event);
     return event.dropAction();
 }
 
-Qt::DropAction window_driver::drop(const QList<QUrl>& urls, Qt::DropActions offered)
+Qt::DropAction window_driver::drop(const QList<QUrl>& urls, Qt::DropActions offered,
+                                   Qt::KeyboardModifiers held)
 {
     QMimeData data;
     data.setUrls(urls);
-    return drop(data, offered);
+    return drop(data, offered, held);
 }
 
 QStringList window_driver::files() const

@@ -25,10 +25,13 @@ struct window_driver
     /// Adds a file, selects it, and presses "Plot" or "Read".
     QString open(const QString& name, const QByteArray& text);
     /// Drags into the window, and neither leaves nor drops; answers whether a drop would be taken.
-    bool drag(const QMimeData& data, Qt::DropActions offered = Qt::CopyAction);
+    bool drag(const QMimeData& data, Qt::DropActions offered = Qt::CopyAction,
+              Qt::KeyboardModifiers held = Qt::NoModifier);
     /// Drags into the window and drops there; answers what the source is told was done.
-    Qt::DropAction drop(const QMimeData& data, Qt::DropActions offered = Qt::CopyAction);
-    Qt::DropAction drop(const QList<QUrl>& urls, Qt::DropActions offered = Qt::CopyAction);
+    Qt::DropAction drop(const QMimeData& data, Qt::DropActions offered = Qt::CopyAction,
+                        Qt::KeyboardModifiers held = Qt::NoModifier);
+    Qt::DropAction drop(const QList<QUrl>& urls, Qt::DropActions offered = Qt::CopyAction,
+                        Qt::KeyboardModifiers held = Qt::NoModifier);
     QStringList files() const;
 
     QTemporaryDir folder;
