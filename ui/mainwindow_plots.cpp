@@ -18,13 +18,6 @@ void clear_titles(QwtPlot& plot)
     plot.setTitle(QString());
 }
 
-// Redraws, without the gap that the legend of the last document has left.
-void redraw_empty(QwtPlot& plot)
-{
-    plot.updateLayout();
-    plot.replot();
-}
-
 } // namespace
 
 // A screen reader can press the buttons and choose the rows of a blocked window, too. A document
@@ -83,9 +76,9 @@ void MainWindow::clear_plots(QString trigger)
     ui->qwtPlot->setAxisTitle(QwtAxis::XTop, QString());
     ui->qwtPlot->setAxisVisible(QwtAxis::XTop, false);
     apply_kept_ranges(redraw::no);
-    redraw_empty(*ui->qwtPlot);
+    ui->qwtPlot->replot();
     clear_titles(*ui->qwtPlot_2);
-    redraw_empty(*ui->qwtPlot_2);
+    ui->qwtPlot_2->replot();
     ui->listWidget_2->clear();
     ui->pushButton->setText(idle_button_text());
 }

@@ -129,10 +129,11 @@ void tst_rename_dialog::one_row_for_each_name()
 void tst_rename_dialog::name_without_end()
 {
     shown_dialog shown;
-    const QString name(2'000'000, 'x');
+    const QString name(20'000, 'x');
     shown.dialog.set_old_names({name.first(10'000)});
     shown.table->resizeColumnToContents(0);
     const int width = shown.table->columnWidth(0);
+    QVERIFY(width > 10'000);
     shown.dialog.set_old_names({name});
     shown.table->resizeColumnToContents(0);
     QCOMPARE(shown.table->columnWidth(0), width);

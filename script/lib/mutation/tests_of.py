@@ -15,7 +15,8 @@ WINDOW = (
     "tst_layout tst_file_list tst_plot_commands tst_fixed_ranges tst_characteristic_curves "
     "tst_name_navigation tst_axis_commands tst_rename_command tst_information tst_saved_image "
     "tst_manual_command tst_startup tst_odd_names tst_picture_faults tst_closing "
-    "tst_several_instances tst_tab_order tst_keys tst_random_walk"
+    "tst_several_instances tst_tab_order tst_keys tst_spoken_names "
+    "tst_random_walk"
 )
 DOCU = (
     "tst_docu_layout tst_docu_navigation tst_docu_search tst_zoom_selector tst_docu_bad_files "
@@ -65,7 +66,7 @@ TABLE = [
     ("ui/mainwindow_manual", "tst_manual_command", WINDOW),
     ("ui/mainwindow_plots", "tst_plot_commands tst_fixed_ranges", WINDOW),
     ("ui/mainwindow_rename", "tst_rename_command", WINDOW),
-    ("ui/name_delegate", "tst_odd_names", WINDOW),
+    ("ui/name_delegate", "tst_rename_dialog tst_odd_names", WINDOW),
     ("ui/application_icon", "tst_startup tst_information", WINDOW),
     ("ui/", "tst_layout", WINDOW),
     ("docu/docudialog_accessibility", "tst_docu_keys", DOCU),
