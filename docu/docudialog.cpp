@@ -111,7 +111,7 @@ void DocuDialog::zoomOut()
 void DocuDialog::previousPage()
 {
     const int page = pdfView->pageNavigator()->currentPage();
-    if (page > 0)
+    if (page - 1 >= 0)
         jumpToTop(page - 1);
 }
 

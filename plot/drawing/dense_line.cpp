@@ -193,11 +193,11 @@ void dense_line::draw_steps(QPainter& painter) const
     for (const stretch& step : steps) {
         if (shown && continues(*shown, step)) {
             shown->to = step.to;
-            continue;
+        } else {
+            if (shown)
+                draw_stretch(*shown, painter);
+            shown = step;
         }
-        if (shown)
-            draw_stretch(*shown, painter);
-        shown = step;
     }
     if (shown)
         draw_stretch(*shown, painter);
@@ -271,10 +271,10 @@ void dense_line::draw_stretch(const stretch& shown, QPainter& painter) const
     QPolygonF vertices;
     add_lead(shown.from, &dense_line::previous, vertices);
     std::ranges::reverse(vertices);
-    std::optional<place> each = shown.from;
-    while (each && each->bar < shown.to.bar) {
-        vertices.append(line.pixel(each->point));
-        each = next(*each);
+    std::optional<place> corner = shown.from;
+    while (corner && corner->bar < shown.to.bar) {
+        vertices.append(line.pixel(corner->point));
+        corner = next(*corner);
     }
     vertices.append(line.pixel(shown.to.point));
     add_lead(shown.to, &dense_line::next, vertices);

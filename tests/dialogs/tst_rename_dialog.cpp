@@ -46,6 +46,7 @@ private slots:
     void form();
     void texts();
     void headers();
+    void headers_of_an_empty_table();
     void one_row_for_each_name();
     void name_without_end();
     void old_names_can_be_edited_without_effect();
@@ -112,6 +113,20 @@ void tst_rename_dialog::headers()
         QVERIFY(columns.height() > 10);
         QCOMPARE(table->viewport()->geometry().topLeft(),
                  QPoint(rows.geometry().right() + 1, columns.geometry().bottom() + 1));
+    }
+}
+
+void tst_rename_dialog::headers_of_an_empty_table()
+{
+    shown_dialog shown;
+    for (int times = 0; times < 2; ++times) {
+        const QHeaderView& columns = *shown.table->horizontalHeader();
+        QVERIFY(columns.height() > 10);
+        QCOMPARE(shown.table->viewport()->y(), columns.geometry().bottom() + 1);
+        shown.dialog.hide();
+        shown.dialog.set_old_names(old_names());
+        shown.dialog.clear_names();
+        shown.dialog.show();
     }
 }
 

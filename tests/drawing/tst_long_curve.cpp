@@ -38,6 +38,7 @@ private slots:
     void edges_in_a_gap();
     void ends_of_bars_in_another_block();
     void ends_at_an_edge();
+    void lone_points_at_the_end();
     void missing_columns();
     void pens();
     void bounding_rectangle_data();
@@ -185,8 +186,8 @@ void tst_long_curve::ends_of_bars_in_another_block()
     compare(shown, {columns, {-2.0, 3.0}});
 }
 
-// The line starts or ends a few rows beside an edge, with low bars: how it is joined there with
-// what lies behind the edge shows by the width of the pen.
+// The line starts, comes in or goes out a few rows beside an upper or lower edge, with low bars:
+// how it is joined there with what lies behind the edge shows by the width of the pen.
 void tst_long_curve::ends_at_an_edge()
 {
     constexpr qsizetype points_of_a_column = 4;
@@ -201,6 +202,24 @@ void tst_long_curve::ends_at_an_edge()
         const double beside = shown.y[i % 2 == 0 ? first : end] + random.bounded(7) - 3.0;
         const double low = i % 3 == 0 ? beside : beside - rows;
         compare(shown, {{from, from + length}, {low, low + rows}});
+    }
+}
+
+// The last point in sight stands alone, at each place of a piece, and the line goes on to the
+// right.
+void tst_long_curve::lone_points_at_the_end()
+{
+    constexpr qsizetype columns = 600;
+    const sample_function value = noise(15, 1);
+    for (qsizetype i = 0; i < 24; ++i) {
+        series shown;
+        for (qsizetype point = 0; point < 4 * columns + i; ++point) {
+            shown.x.append(static_cast<double>(point) / 4.0);
+            shown.y.append(value(point));
+        }
+        shown.x.append({columns + 20.0, columns + 40.0, 4.0 * columns});
+        shown.y.append({0.3, 0.9, i % 2 == 0 ? 0.2 : 0.95});
+        compare(shown, {{0.0, canvas.width() - 1.0}, {-0.2, 1.2}});
     }
 }
 
@@ -227,7 +246,7 @@ void tst_long_curve::pens()
     const series steps = made_of(shapes()[1].second, size);
     const sample_function one = noise(6, 1);
     const series rows = made_of([&](qsizetype i) { return std::floor(8.0 * one(i)); }, 7'000);
-    for (const double width : {0.0, 1.0, 1.5, 2.0, 2.5, 3.0, 5.0, 20.0}) {
+    for (const double width : {0.0, 1.0, 1.5, 2.0, 2.2, 2.5, 3.0, 5.0, 20.0}) {
         for (const auto cap : {Qt::SquareCap, Qt::FlatCap, Qt::RoundCap}) {
             for (const auto join : {Qt::BevelJoin, Qt::MiterJoin, Qt::RoundJoin}) {
                 const QPen pen(Qt::blue, width, Qt::SolidLine, cap, join);

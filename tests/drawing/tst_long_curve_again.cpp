@@ -157,13 +157,13 @@ void tst_long_curve_again::few_points_are_looked_at_data()
         QTest::newRow(name) << pen << place << few;
     };
     row("usual", true, usual);
-    row("widest", true, QPen(Qt::red, 2.5));
+    row("widest", true, QPen(Qt::red, 2.2));
     row("moved by pixels", true, usual, QTransform::fromTranslate(5, -3));
     row("moved by half a pixel", false, usual, QTransform::fromTranslate(0.5, 0));
     row("moved down by half a pixel", false, usual, QTransform::fromTranslate(0, 0.5));
     row("larger", false, usual, QTransform::fromScale(2, 2));
     row("thin", false, QPen(Qt::blue, 1.0));
-    row("wide", false, QPen(Qt::blue, 2.6));
+    row("wide", false, QPen(Qt::blue, 2.3));
     row("dashes", false, QPen(Qt::blue, 2.0, Qt::DashLine));
     row("flat ends", false, QPen(Qt::blue, 2.0, Qt::SolidLine, Qt::FlatCap));
     row("round corners", false, QPen(Qt::blue, 2.0, Qt::SolidLine, Qt::SquareCap, Qt::RoundJoin));

@@ -71,6 +71,8 @@ private slots:
     void remove_without_selection();
     void remove_selected_data();
     void remove_selected();
+    void remove_the_only_file();
+    void remove_forgets_fixed_ranges_data();
     void remove_forgets_fixed_ranges();
 };
 
@@ -293,13 +295,32 @@ void tst_file_list::remove_selected()
     QVERIFY(driver.lower->itemList().isEmpty() && driver.upper->itemList().isEmpty());
 }
 
+void tst_file_list::remove_the_only_file()
+{
+    window_driver driver;
+    driver.open("a_K.wel", node_file(3));
+    driver.press(driver.remove);
+    QCOMPARE(driver.files(), QStringList());
+    QCOMPARE(driver.button->text(), "Plot");
+    QVERIFY(!driver.window.shown_document());
+    QVERIFY(driver.lower->itemList().isEmpty() && driver.upper->itemList().isEmpty());
+}
+
 // The selection changes twice, and the second time there is no document to keep ranges of.
+void tst_file_list::remove_forgets_fixed_ranges_data()
+{
+    QTest::addColumn<int>("row");
+    QTest::newRow("first") << 0;
+    QTest::newRow("last") << 1;
+}
+
 void tst_file_list::remove_forgets_fixed_ranges()
 {
+    QFETCH(int, row);
     window_driver driver;
     driver.add("a_K.wel", node_file(3));
     driver.add("b_K.wel", node_file(3));
-    driver.select(0);
+    driver.select(row);
     driver.press(driver.button);
     driver.window.shown_document()->set_x_axis_scale(driver.lower, {5, 50}, "bottom");
     driver.lower->replot();

@@ -31,6 +31,8 @@ void fix(const window_driver& driver, const QString& axis)
         document.set_y_axis_scale(driver.lower, {5, 50});
     else if (axis == "upper y")
         document.set_y_axis_scale(driver.upper, {5, 50});
+    else if (axis == "status of the upper y, which no command sets")
+        document.y_top_status = true;
     driver.lower->replot();
     driver.upper->replot();
 }
@@ -98,6 +100,9 @@ void tst_fixed_ranges::fixed_range_survives_a_change_of_file_data()
     // What is kept is the lower y range, whichever plot's y axis was fixed.
     QTest::newRow("upper y") << time_of_file() << time_of_file() << QwtInterval(1, 9)
                              << rain_of_file();
+    // What is kept is the lower y range, and it is given to the upper plot.
+    QTest::newRow("status of the upper y, which no command sets")
+        << time_of_file() << time_of_file() << flow_of_file() << QwtInterval(1, 9);
     // What is kept is the lower x range, whichever plot's x axis was fixed.
     QTest::newRow("upper x") << time_of_file() << time_of_file() << flow_of_file()
                              << rain_of_file();

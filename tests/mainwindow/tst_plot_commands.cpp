@@ -66,6 +66,7 @@ private slots:
     void file_without_marker();
     void blocked_window_data();
     void blocked_window();
+    void file_chosen_behind_a_box();
     void another_file_clears_the_plots();
     void gap_of_the_legend_closes();
     void held_document_is_destroyed_first();
@@ -271,6 +272,22 @@ void tst_plot_commands::blocked_window()
         driver.window.findChild<QAction*>(command)->trigger();
     QCOMPARE(user.count(), 1);
     QVERIFY(document && document == driver.window.shown_document());
+}
+
+// The very first file is chosen by a screen reader while a box is open.
+void tst_plot_commands::file_chosen_behind_a_box()
+{
+    window_driver driver;
+    driver.add("x_K.wel", node_file(9));
+    const modal_answer<QDialog> user([&](QDialog& dialog) {
+        driver.list->setCurrentRow(0);
+        dialog.reject();
+    });
+    driver.press(driver.button); // with nothing selected
+    QCOMPARE(user.count(), 1);
+    driver.press(driver.button);
+    QVERIFY(is_drawn(driver));
+    QCOMPARE(driver.lower->axisInterval(QwtAxis::XBottom), QwtInterval(0, 72));
 }
 
 void tst_plot_commands::another_file_clears_the_plots()

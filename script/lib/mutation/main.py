@@ -52,13 +52,11 @@ def sample(mutants: list, options) -> list:
 
 
 def check_list(mutants: list, equivalents):
-    """What is listed and does not occur any more is a mistake of the list."""
-    for mutant in mutants:
-        equivalents.reason_for(mutant)
-    unused = equivalents.unused(list({mutant.path for mutant in mutants}))
-    for path, before, after in unused:
-        print(f"equivalent.txt has no such mutant:\n@ {path}\n- {before}\n+ {after}")
-    if unused:
+    """What occurs not at all, or in another place as well, is a mistake of the list."""
+    wrong = equivalents.wrong(mutants)
+    for path, before, after in wrong:
+        print(f"equivalent.txt does not list each such mutant:\n@ {path}\n- {before}\n+ {after}")
+    if wrong:
         raise SystemExit(1)
 
 
