@@ -269,7 +269,7 @@ bool dense_line::continues(const stretch& shown, const stretch& step) const
 void dense_line::draw_stretch(const stretch& shown, QPainter& painter) const
 {
     QPolygonF vertices;
-    add_lead(shown.from, &dense_line::previous, vertices);
+    add_lead(shown.from, &dense_line::previous_in_bar, vertices);
     std::ranges::reverse(vertices);
     std::optional<place> corner = shown.from;
     while (corner && corner->bar < shown.to.bar) {
@@ -277,15 +277,15 @@ void dense_line::draw_stretch(const stretch& shown, QPainter& painter) const
         corner = next(*corner);
     }
     vertices.append(line.pixel(shown.to.point));
-    add_lead(shown.to, &dense_line::next, vertices);
+    add_lead(shown.to, &dense_line::next_in_bar, vertices);
     QwtClipper::clipPolygonF(clip, vertices, false);
     painter.drawPolyline(vertices);
 }
 
 // Adds what of the same piece comes next behind or before a stretch, as far as the joint at its end
-// shows: what lies deeper in a bar, in a hidden step or outside of the canvas is not needed. Nor
-// are the points on the left and on the right of all bars: where these show, the stretch holds
-// them.
+// shows: what lies deeper in the bar or outside of the canvas is not needed. Nor is what comes
+// beyond the bar: a step to another one is hidden there, or the stretch would hold it, and its end
+// lies so deep in the bars that no cap shows.
 void dense_line::add_lead(place from, neighbour step, QPolygonF& vertices) const
 {
     const int stub = qCeil(pen_width);
@@ -296,10 +296,9 @@ void dense_line::add_lead(place from, neighbour step, QPolygonF& vertices) const
         const QPoint here = line.pixel(from.point);
         const QPoint there = line.pixel(other->point);
         const int rows = there.y() - here.y();
-        const bool leaves_bar = other->bar != from.bar;
-        const bool is_long = !leaves_bar && std::abs(rows) >= 2 * stub;
+        const bool is_long = std::abs(rows) >= 2 * stub;
         vertices.append(is_long ? here + QPoint(0, rows > 0 ? stub : -stub) : there);
-        if (is_long || leaves_bar)
+        if (is_long)
             return;
         from = *other;
     }
@@ -307,25 +306,36 @@ void dense_line::add_lead(place from, neighbour step, QPolygonF& vertices) const
 
 std::optional<dense_line::place> dense_line::next(const place& from) const
 {
-    const row_window& window = line.window();
-    if (from.bar >= 0 && from.bar < bars.size()) {
-        if (const auto point = rows.next_row(from.point, bars[from.bar].last)) {
-            const int added = window.vertices_of_change(rows.row(from.point), rows.row(*point));
-            return place{from.vertex + added, *point, from.bar};
-        }
-    }
+    if (const auto other = next_in_bar(from))
+        return other;
     const qsizetype bar = from.bar + 1;
     return bar < bars.size() ? std::optional(start_of(bar)) : std::nullopt;
 }
 
-std::optional<dense_line::place> dense_line::previous(const place& from) const
+std::optional<dense_line::place> dense_line::next_in_bar(const place& from) const
 {
-    const row_window& window = line.window();
-    if (from.bar < 0)
+    if (!is_in_bar(from))
         return std::nullopt;
-    if (const auto point = rows.previous_row(from.point, bars[from.bar].first)) {
-        const int added = window.vertices_of_change(rows.row(*point), rows.row(from.point));
-        return place{from.vertex - added, *point, from.bar};
-    }
-    return from.bar > 0 ? std::optional(end_of(from.bar - 1)) : std::nullopt;
+    const auto point = rows.next_row(from.point, bars[from.bar].last);
+    if (!point)
+        return std::nullopt;
+    const int added = line.window().vertices_of_change(rows.row(from.point), rows.row(*point));
+    return place{from.vertex + added, *point, from.bar};
+}
+
+std::optional<dense_line::place> dense_line::previous_in_bar(const place& from) const
+{
+    if (!is_in_bar(from))
+        return std::nullopt;
+    const auto point = rows.previous_row(from.point, bars[from.bar].first);
+    if (!point)
+        return std::nullopt;
+    const int added = line.window().vertices_of_change(rows.row(*point), rows.row(from.point));
+    return place{from.vertex - added, *point, from.bar};
+}
+
+// The points just outside are in none.
+bool dense_line::is_in_bar(const place& each) const
+{
+    return each.bar >= 0 && each.bar < bars.size();
 }

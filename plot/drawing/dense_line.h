@@ -85,7 +85,9 @@ private:
     void draw_stretch(const stretch& shown, QPainter& painter) const;
     void add_lead(place from, neighbour step, QPolygonF& vertices) const;
     std::optional<place> next(const place& from) const;
-    std::optional<place> previous(const place& from) const;
+    std::optional<place> next_in_bar(const place& from) const;
+    std::optional<place> previous_in_bar(const place& from) const;
+    bool is_in_bar(const place& each) const;
 
     const sampled_line& line;
     QRectF clip;
