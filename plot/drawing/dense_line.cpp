@@ -9,7 +9,6 @@
 #include <algorithm>
 #include <cstdlib>
 #include <limits>
-#include <numbers>
 
 namespace {
 
@@ -207,8 +206,9 @@ void dense_line::draw_steps(QPainter& painter) const
 // and to the point outside on the right.
 QList<dense_line::stretch> dense_line::shown_steps() const
 {
-    // The corners of a cap are farthest away; a pixel is set where its centre is covered.
-    const int reach = qCeil(pen_width * std::numbers::sqrt2 / 2.0 - 0.5);
+    // The corners of a cap are farthest away, by half the diagonal of the pen: 1.49 for the widest
+    // one that a long curve draws with, 2.1. A pixel is set where its centre is covered.
+    constexpr int reach = 1;
     QList<stretch> steps;
     const auto add = [&](const place& from, const place& to) {
         if (!is_cut_off(from.point, to.point))

@@ -48,7 +48,7 @@ bool draws_pieces(QPainter& painter)
 // Whether lines of the pen are known to be bars with square ends, in one colour.
 bool draws_bars(const QPen& pen)
 {
-    constexpr double widest = 2.2; // a wider one has corners that show beside the bars
+    constexpr double widest = 2.1; // corners of a wider one show two rows away, or beside the bars
     return pen.widthF() > 1.0 && pen.widthF() <= widest && pen.style() == Qt::SolidLine &&
            pen.capStyle() == Qt::SquareCap && pen.joinStyle() == Qt::BevelJoin &&
            pen.brush().style() == Qt::SolidPattern && pen.color().alpha() == 255;

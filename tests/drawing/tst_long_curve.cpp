@@ -246,7 +246,7 @@ void tst_long_curve::pens()
     const series steps = made_of(shapes()[1].second, size);
     const sample_function one = noise(6, 1);
     const series rows = made_of([&](qsizetype i) { return std::floor(8.0 * one(i)); }, 7'000);
-    for (const double width : {0.0, 1.0, 1.5, 2.0, 2.2, 2.5, 3.0, 5.0, 20.0}) {
+    for (const double width : {0.0, 1.0, 1.1, 1.5, 2.0, 2.1, 2.2, 2.5, 3.0, 5.0, 20.0}) {
         for (const auto cap : {Qt::SquareCap, Qt::FlatCap, Qt::RoundCap}) {
             for (const auto join : {Qt::BevelJoin, Qt::MiterJoin, Qt::RoundJoin}) {
                 const QPen pen(Qt::blue, width, Qt::SolidLine, cap, join);

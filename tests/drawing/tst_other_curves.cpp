@@ -266,7 +266,7 @@ void tst_other_curves::many_points_are_not_left_to_qwt_data()
     QTest::addColumn<drawing>("draw");
     QTest::newRow("plain") << 2.0 << drawing(draw_all);
     QTest::newRow("thinner") << 1.5 << drawing(draw_all);
-    QTest::newRow("the widest") << 2.2 << drawing(draw_all);
+    QTest::newRow("the widest") << 2.1 << drawing(draw_all);
     QTest::newRow("moved by whole pixels") << 2.0 << drawn_moved({3.0, 7.0});
     QTest::newRow("five points for two columns") << 2.0 << drawn_between(0, points / 4.0);
 }
