@@ -206,10 +206,10 @@ void tst_random_walk::walk()
                  qPrintable(QString("step %1, %2: %3").arg(step).arg(action, fault)));
         QVERIFY(driver.window.isVisible());
     }
-    // A walk past an empty window would show little.
-    QVERIFY2(documents > walk_length() / 3, QByteArray::number(documents));
     if (walk_length() <= 2000) // a shorter walk may miss what is done seldom
         return;
+    // A walk past an empty window would show little.
+    QVERIFY2(documents > walk_length() / 3, QByteArray::number(documents));
     QCOMPARE(done.size(), random_user::kinds_of_action());
     QVERIFY(!QDir(driver.folder.path()).entryList({"*.png"}).isEmpty());
 }
