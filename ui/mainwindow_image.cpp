@@ -29,6 +29,7 @@ QPixmap picture_of(QwtPlot& plot)
 QPixmap stacked(const QPixmap& upper, const QPixmap& lower)
 {
     QPixmap both(std::max(upper.width(), lower.width()), upper.height() + lower.height());
+    both.fill(Qt::white); // beside the narrower one
     QPainter painter(&both);
     painter.drawPixmap(0, 0, upper);
     painter.drawPixmap(0, upper.height(), lower);

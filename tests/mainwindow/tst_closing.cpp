@@ -187,7 +187,7 @@ private:
         if (leave) {
             is_dialog_open = QApplication::activeModalWidget() || QApplication::activePopupWidget();
             std::exchange(leave, nullptr)(window);
-            watch.start(is_dialog_open ? 30 : 1000);
+            watch.start(is_dialog_open ? 30 : 5000);
             return;
         }
         ++acts;
