@@ -32,8 +32,8 @@ struct fuzz_input
     QByteArray file;
 };
 
-/// What a fuzzer's function answers for an input of which nothing is to be learned.
-constexpr int is_no_use = -1;
+/// What a fuzzer's function answers for an input that is read, but not compared.
+constexpr int is_not_compared = 0;
 
 /// Whether a file is UTF-16 or UTF-32 with half a pair of surrogates in it. Text streams keep such
 /// a half as it is, while UTF-8, in which the readers work, cannot write it.

@@ -116,6 +116,8 @@ private slots:
     void blocks_of_an_encoding_data();
     void blocks_of_an_encoding();
     void pair_of_surrogates_across_blocks();
+    void half_a_pair_data();
+    void half_a_pair();
     void line_without_end();
     void random_bytes_as_a_text_stream();
 };
@@ -236,6 +238,26 @@ void tst_text_lines::pair_of_surrogates_across_blocks()
     const QByteArray bytes = "\xFF\xFE" + line;
     QCOMPARE(our_lines(bytes).value(0).last(3), u"x\U0001F4A7"_s);
     QCOMPARE(our_lines(bytes), stream_lines(bytes));
+}
+
+void tst_text_lines::half_a_pair_data()
+{
+    QTest::addColumn<QString>("half");
+    QTest::newRow("first half") << QString(QChar(0xD83D));
+    QTest::newRow("second half") << QString(QChar(0xDCA7));
+}
+
+// UTF-8 has no bytes for it: the sign for a lost character stands in its place. At the very end it
+// waits for its other half, and is left out.
+void tst_text_lines::half_a_pair()
+{
+    QFETCH(QString, half);
+    const QString text = "1" + half + "2\n3" + half + "\n" + half;
+    const QByteArray bytes(
+        "\xFF\xFE" + QByteArray(reinterpret_cast<const char*>(text.utf16()), 2 * text.size()));
+    const QString lost = QChar(QChar::ReplacementCharacter);
+    for (const qsizetype most : {block_size, qsizetype(5), qsizetype(4)})
+        QCOMPARE(our_lines(bytes, most), (QStringList{"1" + lost + "2", "3" + lost}));
 }
 
 // After 256 MB without an end, and the block that was read to look for one, there is no line.
