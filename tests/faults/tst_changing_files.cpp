@@ -1,4 +1,8 @@
 #include "plot/korimo_plot.h"
+#include "plot/reading/bek_reader.h"
+#include "plot/reading/dkl_reader.h"
+#include "plot/reading/result_file.h"
+#include "plot/reading/text_lines.h"
 #include "tests/support/document_dump.h"
 #include "tests/support/literal_reader.h"
 #include "tests/support/log_capture.h"
@@ -85,6 +89,76 @@ private:
 
 using change = std::function<void(const QString& path)>;
 
+// A file with one curve of `rows` points. The level tells which point it is, the discharge whether
+// it was there from the start.
+struct curve_format
+{
+    QByteArray head;
+    QByteArray (*point)(int row, const char* when);
+    void (*read)(text_lines& lines, series_store& series);
+
+    QByteArray points(const char* when, int first, int count) const
+    {
+        QByteArray bytes;
+        for (int row = first; row < first + count; ++row)
+            bytes += point(row, when);
+        return bytes;
+    }
+    QByteArray whole(const char* when) const { return head + points(when, 0, rows); }
+    qsizetype points_in(qsizetype bytes) const
+    {
+        return (bytes - head.size()) / point(1, "1").size();
+    }
+};
+
+QByteArray level_of(int row)
+{
+    return (QByteArray::number(row) + ".5").rightJustified(7);
+}
+
+QByteArray point_of_basin(int row, const char* when)
+{
+    const QByteArray start(row == 0 ? "   B2" : "");
+    return start.leftJustified(37) + level_of(row) + "     " + when + "\n";
+}
+
+QByteArray point_of_throttle(int row, const char* when)
+{
+    return level_of(row) + " " + when + "\n";
+}
+
+const curve_format basin{"", point_of_basin, [](text_lines& lines, series_store& series) {
+                             read_bek(lines, u"B2   ", series);
+                         }};
+const curve_format throttle{" 2 Auslass2 km 2.5\n Wo Qd\n 99999\n", point_of_throttle,
+                            [](text_lines& lines, series_store& series) {
+                                QString title;
+                                read_dkl(lines, "2.5_2_Auslass2", title, series);
+                            }};
+
+// A file to which something happens as it is read for the second time, far from its end.
+class changing_file : public QFile
+{
+public:
+    changing_file(const QString& path, change what)
+        : QFile(path)
+        , what(std::move(what))
+    {
+    }
+
+protected:
+    qint64 readData(char* data, qint64 size) override
+    {
+        if (++readings == 2)
+            what(fileName());
+        return QFile::readData(data, size);
+    }
+
+private:
+    change what;
+    int readings = 0;
+};
+
 } // namespace
 
 /// A result file that the model, or anybody else, writes while the viewer reads it. What is shown
@@ -96,6 +170,8 @@ class tst_changing_files : public QObject
 private slots:
     void hydrographs_data();
     void hydrographs();
+    void characteristic_curves_data();
+    void characteristic_curves();
     void written_all_the_time_data();
     void written_all_the_time();
     void gone_between_commands_data();
@@ -146,6 +222,61 @@ void tst_changing_files::hydrographs()
     for (qsizetype i = 0; i + 1 < read.size(); ++i) // the last row may be cut off
         QCOMPARE(read[i], i);
     qsizetype old = plots.document->series[12].indexOf(2);
+    QVERIFY(old == -1 || old > 100);
+}
+
+void tst_changing_files::characteristic_curves_data()
+{
+    QTest::addColumn<curve_format>("format");
+    QTest::addColumn<change>("what");
+    QTest::addColumn<qsizetype>("least"); // points that are read
+    QTest::addColumn<qsizetype>("most");
+    for (const auto& [name, format] :
+         {std::pair("basin", basin), std::pair("throttle", throttle)}) {
+        const auto row = [&](const char* how, const change& what, qsizetype least, qsizetype most) {
+            QTest::addRow("%s, %s", name, how) << format << what << least << most;
+        };
+        const auto to_end = [&](const char* how, const change& what) {
+            row(how, what, rows, rows);
+        };
+        row("emptied", [](const QString& path) { QFile::resize(path, 0); }, 100, rows - 1);
+        const qsizetype left = format.points_in(300'000);
+        row("cut", [](const QString& path) { QFile::resize(path, 300'000); }, left, left + 1);
+        row(
+            "longer", [=](const QString& path) { append(path, format.points("2", rows, 500)); },
+            rows + 500, rows + 500);
+        to_end("removed", [](const QString& path) { QFile::remove(path); });
+        to_end("replaced", [=](const QString& path) { replace(path, format.head); });
+        to_end("overwritten", [=](const QString& path) { overwrite(path, format.whole("2")); });
+        to_end("forbidden", [](const QString& path) { QFile::setPermissions(path, {}); });
+    }
+}
+
+void tst_changing_files::characteristic_curves()
+{
+    QFETCH(curve_format, format);
+    QFETCH(change, what);
+    QFETCH(qsizetype, least);
+    QFETCH(qsizetype, most);
+    const QTemporaryDir folder;
+    const QString path = folder.filePath("x");
+    write_file(path, format.whole("1"));
+    bool changed = false;
+    changing_file file(path, [&](const QString& of) {
+        what(of);
+        changed = true;
+    });
+    QVERIFY(open_result_file(file));
+    const log_capture warnings;
+    text_lines lines(file);
+    series_store series;
+    format.read(lines, series);
+    QVERIFY(changed);
+    const QList<double>& levels = series[1];
+    QVERIFY2(levels.size() >= least && levels.size() <= most, QByteArray::number(levels.size()));
+    for (qsizetype i = 0; i + 1 < levels.size(); ++i) // the last point may be cut off
+        QCOMPARE(levels[i], static_cast<double>(i) + 0.5);
+    const qsizetype old = series[11].indexOf(2);
     QVERIFY(old == -1 || old > 100);
 }
 

@@ -16,11 +16,13 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-// Text that is written behind what the file starts with: `piece` until it is so long.
+// Text that is written behind what the file starts with: half a million pieces so many times, and
+// the end.
 struct rest_of_file
 {
     const char* piece;
-    qsizetype megabytes;
+    int times;
+    const char* end = "";
 };
 
 void append(const QString& path, const rest_of_file& rest)
@@ -29,13 +31,20 @@ void append(const QString& path, const rest_of_file& rest)
     QFile file(path);
     if (!file.open(QIODevice::Append))
         qFatal("cannot write a temporary file");
-    for (qsizetype i = 0; i < rest.megabytes; ++i)
+    for (int i = 0; i < rest.times; ++i)
         file.write(block);
+    file.write(rest.end);
 }
 
 constexpr rest_of_file rows{"1\n", 8};
 constexpr rest_of_file one_token{"11", 32};
 constexpr rest_of_file one_row{"1 ", 32};
+#ifndef __SANITIZE_ADDRESS__ // its operator new ends the program in place of throwing
+constexpr rest_of_file numbers_of_one_row{"1 ", 6, "\n"};
+#endif
+constexpr rest_of_file last_line{"1 ", 10};
+constexpr rest_of_file basins{"   B1                                 1\n", 2};
+constexpr rest_of_file curves{" 1 Auslass1 km 1.5\n", 2};
 
 // There is room for the line, but not for all that the log makes of it.
 constexpr rest_of_file words{"a ", 3};
@@ -104,8 +113,14 @@ void tst_out_of_memory::opened_data()
     QTest::newRow("rows") << "x_P.wel" << hydrograph << rows;
     QTest::newRow("one token") << "x_P.wel" << hydrograph << one_token;
     QTest::newRow("one row") << "x_P.wel" << hydrograph << one_row;
-    QTest::newRow("basins") << "x.bek" << basin_table() << one_token;
-    QTest::newRow("curves") << "x.dkl" << throttle_curves() << one_token;
+#ifndef __SANITIZE_ADDRESS__
+    QTest::newRow("numbers of one row") << "x_P.wel" << hydrograph << numbers_of_one_row;
+#endif
+    QTest::newRow("text of the last line") << "x_P.wel" << hydrograph << last_line;
+    QTest::newRow("basins and a token") << "x.bek" << basin_table() << one_token;
+    QTest::newRow("curves and a token") << "x.dkl" << throttle_curves() << one_token;
+    QTest::newRow("names of basins") << "x.bek" << basin_table() << basins;
+    QTest::newRow("names of curves") << "x.dkl" << throttle_curves() << curves;
 }
 
 void tst_out_of_memory::opened()

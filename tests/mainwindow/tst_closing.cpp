@@ -94,6 +94,21 @@ void report_an_unreadable_file(window_driver& driver)
     driver.press(driver.button);
 }
 
+void report_unreadable_basins(window_driver& driver)
+{
+    driver.list->addItem("/nowhere/x.bek");
+    driver.select(0);
+    driver.press(driver.button);
+}
+
+// The names stay, and the drawing goes on when the box has been closed.
+void report_a_curve_whose_file_is_gone(window_driver& driver)
+{
+    draw_name(driver);
+    QFile::remove(driver.folder.filePath("x.dkl"));
+    driver.press(driver.plot_name);
+}
+
 void report_what_cannot_be_plotted(window_driver& driver)
 {
     driver.open("x.wel", node_file(9));
@@ -269,6 +284,8 @@ void tst_closing::in_every_state_data()
         {"licence", unfold_the_licence, true},
         {"selection error", ask_for_a_selection, true},
         {"unreadable file", report_an_unreadable_file, true},
+        {"unreadable basins", report_unreadable_basins, true},
+        {"file of a curve gone", report_a_curve_whose_file_is_gone, true},
         {"plotting error", report_what_cannot_be_plotted, true},
         {"manuals", open_manuals, false},
         {"manual searched", search_in_a_manual, true},
