@@ -5,6 +5,7 @@
 #include "ui/image_file_name.h"
 #include "ui/ui_mainwindow.h"
 
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QPainter>
@@ -88,7 +89,8 @@ void MainWindow::on_action_speicher_triggered()
     const QString file = two_step_mode ? image_file_of_curve(path, selected_item_name)
                                        : image_file_of_hydrograph(path);
     // Deliberate: the box names the file that was meant, whatever became of it.
-    const bool leads_elsewhere = two_step_mode && selected_item_name.contains(u'/');
+    const bool leads_elsewhere =
+        two_step_mode && QDir::fromNativeSeparators(selected_item_name).contains(u'/');
     if (!leads_elsewhere && may_be_written(file, path))
         save(picture, file);
     QMessageBox box;
