@@ -19,6 +19,9 @@ constexpr qint64 hundred_mb = 100'000'000;
 constexpr qsizetype rows_of_five_gb = 45'900'000;
 constexpr int files = 10'000;
 constexpr int names = 100'000;
+constexpr int many_curves = 10'000;
+constexpr int points_of_basin = 7'800;     // 64 bytes each
+constexpr int points_of_throttle = 45'000; // 11 bytes each
 constexpr char short_row[] = "0 1 2 3 4 5 6 7 8 9\n";
 
 // A kind of file, how it is made, and what it may take at most.
@@ -80,26 +83,33 @@ QByteArray padded(int value)
 }
 
 // Five characters are too few for as many names: some occur more than once.
-void make_many_basins(const QString& path)
+QByteArray basin(int number, int points)
 {
-    QFile file(path);
-    if (!file.open(QIODevice::WriteOnly))
-        qFatal("a large file cannot be written");
-    for (int i = 0; i < names; ++i)
-        file.write("   B" + padded(i % 10'000) + QByteArray(29, ' ') +
-                   " 101.50  0.50  0.00   0.00\n");
+    const QByteArray values = " 101.50  0.50  0.00   0.00\n";
+    return "   B" + padded(number % 10'000) + QByteArray(29, ' ') + values +
+           (QByteArray(37, ' ') + values).repeated(points - 1);
 }
 
-void make_many_curves(const QString& path)
+QByteArray throttle(int number, int points)
 {
-    QFile file(path);
-    if (!file.open(QIODevice::WriteOnly))
-        qFatal("a large file cannot be written");
-    for (int i = 0; i < names; ++i) {
-        const QByteArray number = QByteArray::number(i);
-        file.write(" " + number + " Auslass" + number + " km " + number +
-                   ".5\n Wo Qd\n 2\n 101.5 1.0\n 102.0 2.0\n");
-    }
+    const QByteArray name = QByteArray::number(number);
+    return " " + name + " Auslass" + name + " km " + name + ".5\n Wo Qd\n " +
+           QByteArray::number(points) + "\n" + QByteArray(" 101.5 1.0\n").repeated(points);
+}
+
+// So many curves with so many points each.
+std::function<void(const QString&)> curves(QByteArray (*curve)(int number, int points), int count,
+                                           int points)
+{
+    return [=](const QString& path) {
+        QFile file(path);
+        if (!file.open(QIODevice::WriteOnly))
+            qFatal("a large file cannot be written");
+        for (int i = 0; i < count; ++i)
+            file.write(curve(i, points));
+        if (!file.flush())
+            qFatal("a large file cannot be written");
+    };
 }
 
 // What the window shows of a WEL file with so many rows for both curves of a node.
@@ -120,6 +130,8 @@ QList<size> sizes()
     return {
         {"10,000,000 rows", "x_K.wel", rows(10'000'000), 1.6 * series_of_rows * 10, 20,
          node_of(10'000'000)},
+        {"the same with the log", "x_K.wel", rows(10'000'000), 1.6 * series_of_rows * 10, 120,
+         node_of(10'000'000), true},
         {"5 GB of rows", "x_K.wel", rows(rows_of_five_gb), 1.6 * series_of_rows * 45.9, 120,
          node_of(rows_of_five_gb)},
         {"5 GB without a row", "x_K.wel", repeated(title, "Text und keine Zahl\n", five_gb), 20,
@@ -130,6 +142,8 @@ QList<size> sizes()
         {"100 MB, many tokens", "x_K.wel", repeated(title, "1 ", hundred_mb), 1500, 10, node_of(2)},
         {"the same with the log", "x_K.wel", repeated(title, "1 ", hundred_mb), 3000, 20,
          node_of(2), true},
+        {"100 MB, no line end", "x_K.wel", repeated(title, "1 ", hundred_mb, ""), 1500, 10,
+         node_of(2)},
         {"a title of 100 MB", "x_K.wel",
          repeated("", "Ganglinien ", hundred_mb, QByteArray("\n") + short_row), 1000, 10,
          node_of(1)},
@@ -140,9 +154,13 @@ QList<size> sizes()
         {"a name of 100 MB, DKL", "x.dkl",
          repeated(" 1 ", "Auslass", hundred_mb, " km 1.5\n Wo Qd\n 2\n 101.5 1\n 102 2\n"), 4000,
          20, "1 files, 1 names, 2 points"},
-        {"100,000 names, BEK", "x.bek", make_many_basins, 100, 10,
+        {"5 GB of basins", "x.bek", curves(basin, many_curves, points_of_basin), 100, 120,
+         "1 files, 10000 names, 7800 points, 7800 points"},
+        {"5 GB of curves", "x.dkl", curves(throttle, many_curves, points_of_throttle), 100, 120,
+         "1 files, 10000 names, 45000 points"},
+        {"100,000 names, BEK", "x.bek", curves(basin, names, 1), 100, 10,
          "1 files, 100000 names, 10 points, 10 points"},
-        {"100,000 names, DKL", "x.dkl", make_many_curves, 100, 10,
+        {"100,000 names, DKL", "x.dkl", curves(throttle, names, 2), 100, 10,
          "1 files, 100000 names, 2 points"},
         {"10,000 files", "files", make_many_files, 100, 10,
          "10000 files, 0 names, 1 points, 1 points"},
