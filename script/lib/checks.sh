@@ -28,9 +28,9 @@ is_own_checkout() {
 # Without git, everything that is not built counts.
 source_files() {
   if is_own_checkout; then
-    git ls-files -z -co --exclude-standard -- '*.cpp' '*.h'
+    git ls-files -z -co --exclude-standard -- '*.cpp' '*.h' '*.c'
   else
-    find . -path ./build -prune -o -type f \( -name '*.cpp' -o -name '*.h' \) -print0
+    find . -path ./build -prune -o -type f \( -name '*.cpp' -o -name '*.h' -o -name '*.c' \) -print0
   fi
 }
 
@@ -107,6 +107,7 @@ check_scripts() {
   shellcheck --external-sources --source-path=SCRIPTDIR --source-path=script \
     .ci/run "${commands[@]}" script/lib/*.sh tests/scripts/*.sh || return
   for script in tests/scripts/*.sh; do bash "$script" || return; done
+  "$(clang_tidy)" --quiet script/lib/*.c tests/scripts/*.c --
 }
 
 [[ $1 == good ]] || fail "package: script/package --test shows it"

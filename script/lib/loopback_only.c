@@ -1,12 +1,11 @@
 /* Preloaded into the viewer: a socket that is about to listen on all addresses of the machine
    listens on the one of the machine itself only. */
 #include <netinet/in.h>
-#include <string.h>
 #include <sys/socket.h>
 #include <sys/syscall.h>
 #include <unistd.h>
 
-static long bind_as_asked(int fd, const void *address, socklen_t length)
+static long bind_as_asked(int fd, const void* address, socklen_t length)
 {
     return syscall(SYS_bind, fd, address, length);
 }
@@ -21,17 +20,18 @@ static long bind_v4(int fd, struct sockaddr_in address)
 /* ::ffff:127.0.0.1 is 127.0.0.1 for a socket that serves both families. */
 static long bind_v6(int fd, struct sockaddr_in6 address)
 {
-    static const unsigned char loopback[16] = {[10] = 0xff, [11] = 0xff, [12] = 127, [15] = 1};
+    static const struct in6_addr loopback = {
+        .s6_addr = {[10] = 0xff, [11] = 0xff, [12] = 127, [15] = 1}};
     if (IN6_IS_ADDR_UNSPECIFIED(&address.sin6_addr))
-        memcpy(&address.sin6_addr, loopback, sizeof loopback);
+        address.sin6_addr = loopback;
     return bind_as_asked(fd, &address, sizeof address);
 }
 
-int bind(int fd, const struct sockaddr *address, socklen_t length)
+int bind(int fd, const struct sockaddr* address, socklen_t length)
 {
     if (address && address->sa_family == AF_INET && length >= sizeof(struct sockaddr_in))
-        return (int)bind_v4(fd, *(const struct sockaddr_in *)address);
+        return (int)bind_v4(fd, *(const struct sockaddr_in*)address);
     if (address && address->sa_family == AF_INET6 && length >= sizeof(struct sockaddr_in6))
-        return (int)bind_v6(fd, *(const struct sockaddr_in6 *)address);
+        return (int)bind_v6(fd, *(const struct sockaddr_in6*)address);
     return (int)bind_as_asked(fd, address, length);
 }
