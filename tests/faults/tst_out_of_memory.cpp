@@ -27,11 +27,11 @@ struct rest_of_file
 
 void append(const QString& path, const rest_of_file& rest)
 {
-    const QByteArray block = QByteArray(rest.piece).repeated(1 << 19);
+    const QByteArray block = QByteArray(rest.piece).repeated(1 << 16);
     QFile file(path);
     if (!file.open(QIODevice::Append))
         qFatal("cannot write a temporary file");
-    for (int i = 0; i < rest.times; ++i)
+    for (int i = 0; i < 8 * rest.times; ++i)
         file.write(block);
     file.write(rest.end);
 }

@@ -28,6 +28,8 @@ def read_arguments():
     parser.add_argument("--kind", action="append", choices=KINDS, help="only mutants of this kind")
     parser.add_argument("--jobs", type=int, default=2, metavar="N", help="mutants at the same time")
     parser.add_argument("--fresh", action="store_true", help="forget the results of earlier calls")
+    parser.add_argument("--listed", action="store_true",
+                        help="only those of equivalent.txt: none may be noticed")
     parser.add_argument("--list", action="store_true", help="show the mutants, try none")
     return parser.parse_args()
 
@@ -46,8 +48,10 @@ def chosen_mutants(options) -> list:
     return mutants
 
 
-def sample(mutants: list, options) -> list:
+def sample(mutants: list, equivalents, options) -> list:
     wanted = [mutant for mutant in mutants if not options.kind or mutant.kind in options.kind]
+    if options.listed:
+        wanted = [mutant for mutant in wanted if equivalents.reason_for(mutant)]
     return wanted[:: options.every]
 
 
@@ -112,6 +116,19 @@ def verdict_table(mutants: list, results: Results, equivalents) -> Table:
     return table
 
 
+def noticed(mutants: list, results: Results) -> int:
+    """How many of them a test notices, each shown with the test."""
+    count = 0
+    for mutant in mutants:
+        verdict = results.verdict_on(mutant)
+        if verdict != "survived":
+            count += 1
+            show_survivor(mutant)
+            print(f"listed, but {verdict}")
+    print(f"{len(mutants)} listed, {count} of them noticed")
+    return count
+
+
 def below_limits(table: Table) -> list[str]:
     shares = {group: table.share(group) for group in LEAST}
     return [f"{group or 'all'}: {share:.1f} % killed, {LEAST[group]} % wanted"
@@ -127,15 +144,18 @@ def main() -> int:
     equivalents = read_equivalents()
     mutants = chosen_mutants(options)
     check_list(mutants, equivalents)
-    chosen = sample(mutants, options)
+    chosen = sample(mutants, equivalents, options)
     if options.list:
         for mutant in chosen:
             show_survivor(mutant)
         return 0
     results = Results(RESULTS, PROJECT, git_files("tests"))
-    todo = [m for m in chosen if equivalents.reason_for(m) is None and not results.verdict_on(m)]
+    todo = [m for m in chosen if not results.verdict_on(m)
+            and (options.listed or equivalents.reason_for(m) is None)]
     if todo:
         try_out(todo, results, options.jobs)
+    if options.listed:
+        return 1 if noticed(chosen, results) else 0
     table = verdict_table(chosen, results, equivalents)
     table.show()
     for failure in below_limits(table):
