@@ -1,4 +1,4 @@
-"""The mutants that change nothing, with the reason why, as `equivalent.txt` lists them."""
+"""The mutants that no test can notice, with the reason why, as `equivalent.txt` lists them."""
 
 from collections import Counter
 from dataclasses import dataclass, field
@@ -14,6 +14,10 @@ class Equivalents:
 
     def reason_for(self, mutant) -> str | None:
         return self.reasons.get((mutant.path, mutant.before, mutant.after))
+
+    def changes_nothing(self, mutant) -> bool:
+        reason = self.reason_for(mutant)
+        return reason is not None and not reason.startswith("Survives:")
 
     def wrong(self, mutants: list) -> list[tuple[str, str, str]]:
         """Those that occur in other numbers than they are listed, in the files of these mutants."""

@@ -108,11 +108,15 @@ def try_out(mutants: list, results: Results, jobs: int):
 def verdict_table(mutants: list, results: Results, equivalents) -> Table:
     table = Table()
     for mutant in mutants:
-        is_listed = equivalents.reason_for(mutant) is not None
-        verdict = "equivalent" if is_listed else results.verdict_on(mutant)
+        reason = equivalents.reason_for(mutant)
+        if reason is None:
+            verdict = results.verdict_on(mutant)
+        else:
+            verdict = "equivalent" if equivalents.changes_nothing(mutant) else "survived"
         table.add(mutant.path, verdict)
         if verdict == "survived":
             show_survivor(mutant)
+            print(reason or "")
     return table
 
 
