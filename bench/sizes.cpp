@@ -156,7 +156,7 @@ QList<size> sizes()
          20, "1 files, 1 names, 2 points"},
         {"5 GB of basins", "x.bek", curves(basin, many_curves, points_of_basin), 100, 120,
          "1 files, 10000 names, 7800 points, 7800 points"},
-        {"5 GB of curves", "x.dkl", curves(throttle, many_curves, points_of_throttle), 100, 120,
+        {"5 GB of curves", "x.dkl", curves(throttle, many_curves, points_of_throttle), 100, 240,
          "1 files, 10000 names, 45000 points"},
         {"100,000 names, BEK", "x.bek", curves(basin, names, 1), 100, 10,
          "1 files, 100000 names, 10 points, 10 points"},
