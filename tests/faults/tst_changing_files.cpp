@@ -93,7 +93,7 @@ using change = std::function<void(const QString& path)>;
 // it was there from the start.
 struct curve_format
 {
-    QByteArray head;
+    const char* head;
     QByteArray (*point)(int row, const char* when);
     void (*read)(text_lines& lines, series_store& series);
 
@@ -104,10 +104,10 @@ struct curve_format
             bytes += point(row, when);
         return bytes;
     }
-    QByteArray whole(const char* when) const { return head + points(when, 0, rows); }
+    QByteArray whole(const char* when) const { return QByteArray(head) + points(when, 0, rows); }
     qsizetype points_in(qsizetype bytes) const
     {
-        return (bytes - head.size()) / point(1, "1").size();
+        return (bytes - QByteArrayView(head).size()) / point(1, "1").size();
     }
 };
 
@@ -127,14 +127,14 @@ QByteArray point_of_throttle(int row, const char* when)
     return level_of(row) + " " + when + "\n";
 }
 
-const curve_format basin{"", point_of_basin, [](text_lines& lines, series_store& series) {
-                             read_bek(lines, u"B2   ", series);
-                         }};
-const curve_format throttle{" 2 Auslass2 km 2.5\n Wo Qd\n 99999\n", point_of_throttle,
-                            [](text_lines& lines, series_store& series) {
-                                QString title;
-                                read_dkl(lines, "2.5_2_Auslass2", title, series);
-                            }};
+constexpr curve_format basin{"", point_of_basin, [](text_lines& lines, series_store& series) {
+                                 read_bek(lines, u"B2   ", series);
+                             }};
+constexpr curve_format throttle{" 2 Auslass2 km 2.5\n Wo Qd\n 99999\n", point_of_throttle,
+                                [](text_lines& lines, series_store& series) {
+                                    QString title;
+                                    read_dkl(lines, "2.5_2_Auslass2", title, series);
+                                }};
 
 // A file to which something happens as it is read for the second time, far from its end.
 class changing_file : public QFile
