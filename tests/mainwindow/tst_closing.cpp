@@ -87,18 +87,14 @@ void ask_for_a_selection(window_driver& driver)
     driver.press(driver.button);
 }
 
-void report_an_unreadable_file(window_driver& driver)
+// Plots or reads a file that is not there; the call stays in the box that tells so.
+std::function<void(window_driver&)> unreadable(const char* path)
 {
-    driver.list->addItem("/nowhere/x_K.wel");
-    driver.select(0);
-    driver.press(driver.button);
-}
-
-void report_unreadable_basins(window_driver& driver)
-{
-    driver.list->addItem("/nowhere/x.bek");
-    driver.select(0);
-    driver.press(driver.button);
+    return [path](window_driver& driver) {
+        driver.list->addItem(path);
+        driver.select(0);
+        driver.press(driver.button);
+    };
 }
 
 // The names stay, and the drawing goes on when the box has been closed.
@@ -283,8 +279,8 @@ void tst_closing::in_every_state_data()
         {"about Qt", command("actionQt_Licensing_Information"), true},
         {"licence", unfold_the_licence, true},
         {"selection error", ask_for_a_selection, true},
-        {"unreadable file", report_an_unreadable_file, true},
-        {"unreadable basins", report_unreadable_basins, true},
+        {"unreadable file", unreadable("/nowhere/x_K.wel"), true},
+        {"unreadable basins", unreadable("/nowhere/x.bek"), true},
         {"file of a curve gone", report_a_curve_whose_file_is_gone, true},
         {"plotting error", report_what_cannot_be_plotted, true},
         {"manuals", open_manuals, false},
